@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/base/ZAMExport.h"
+
+#include <string_view>
+
+/// Compares two UTF-8 texts: 2 when they are identical, 1 when they are equal but for letter case (Unicode simple case
+/// folding), else 0.
+ZAM_EXPORT int ZAMCompareText(std::string_view left, std::string_view right) noexcept;
+
+/// True when the texts are equal, letter case aside: how names and keywords are matched.
+inline bool ZAMTextMatches(std::string_view left, std::string_view right) noexcept {
+    return ZAMCompareText(left, right) > 0;
+}
