@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "framework/lightxml/ZAMLightXmlElementItf.h"
+
+ZAMLightXmlElementItf::~ZAMLightXmlElementItf() = default;

@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "framework/lightxml/ZAMLightXmlInputStream.h"
+
+ZAMLightXmlInputStream::~ZAMLightXmlInputStream() = default;

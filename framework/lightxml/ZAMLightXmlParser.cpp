@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "framework/lightxml/ZAMLightXmlParser.h"
+
+#include "framework/lightxml/ZAMLightXmlDocument.h"
+#include "framework/lightxml/ZAMLightXmlEncoding.h"
+
+#include <expat.h>
+#include <limits>
+#include <memory>
+#include <new>
+
+namespace {
+
+struct ParserDeleter {
+    void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+};
+using ParserHandle = std::unique_ptr<std::remove_pointer_t<XML_Parser>, ParserDeleter>;
+
+// One parse: what expat's handlers fill. An exception must not pass through expat, so a handler that fails stops the
+// parser and leaves the reason here.
+class ParseRun {
+public:
+    explicit ParseRun(XML_Parser parser) : _Parser(parser) {
+        XML_SetUserData(parser, this);
+        XML_SetElementHandler(parser, &OnStart, &OnEnd);
+        XML_SetCharacterDataHandler(parser, &OnText);
+        XML_SetUnknownEncodingHandler(parser, &ZAMLightXmlUnknownEncoding, nullptr);
+    }
+
+    bool Run(std::span<const char> bytes) {
+        if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+            _Failure = "the document is larger than 2 GiB";
+            return false;
+        }
+        // All in one call: expat starts over with an unfinished attribute at each further piece.
+        return XML_Parse(_Parser, bytes.data(), static_cast<int>(bytes.size()), XML_TRUE) == XML_STATUS_OK;
+    }
+
+    [[nodiscard]] std::shared_ptr<ZAMLightXmlDocument> GetDocument() const { return _Document; }
+
+    [[nodiscard]] ZAMLightXmlError GetError() const {
+        const auto line = static_cast<std::uint32_t>(XML_GetCurrentLineNumber(_Parser));
+        const auto column = static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(_Parser)) + 1;
+        return {_Failure != nullptr ? _Failure : XML_ErrorString(XML_GetErrorCode(_Parser)), line, column};
+    }
+
+private:
+    static void OnStart(void* self, const char* name, const char** attributes) {
+        static_cast<ParseRun*>(self)->Guarded([&](ParseRun& run) { run.Start(name, attributes); });
+    }
+    static void OnEnd(void* self, const char* /*name*/) {
+        static_cast<ParseRun*>(self)->Guarded([](ParseRun& run) { run._Document->CloseElement(); });
+    }
+    static void OnText(void* self, const char* data, int length) {
+        static_cast<ParseRun*>(self)->Guarded([&](ParseRun& run) {
+            run._Document->AddText({data, static_cast<std::size_t>(length)});
+        });
+    }
+
+    template <class Action> void Guarded(Action action) noexcept {
+        if (_Failure != nullptr) { // expat may still deliver the end of what it has begun
+            return;
+        }
+        try {
+            action(*this);
+        } catch (const std::bad_alloc&) {
+            Stop("out of memory");
+        }
+    }
+
+    void Start(const char* name, const char** attributes) {
+        if (_Document->GetOpenCount() == static_cast<std::size_t>(kZAMLightXmlMaximumDepth)) {
+            Stop("elements are nested more than 256 deep");
+            return;
+        }
+        _Document->OpenElement(name, static_cast<std::uint32_t>(XML_GetCurrentLineNumber(_Parser)),
+                               static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(_Parser)) + 1);
+        for (; *attributes != nullptr; attributes += 2) {
+            _Document->AddAttribute(attributes[0], attributes[1]);
+        }
+    }
+
+    void Stop(const char* failure) {
+        _Failure = failure;
+        XML_StopParser(_Parser, XML_FALSE);
+    }
+
+    XML_Parser _Parser;
+    std::shared_ptr<ZAMLightXmlDocument> _Document = std::make_shared<ZAMLightXmlDocument>();
+    const char* _Failure = nullptr;
+};
+
+} // namespace
+
+int ZAMLightXmlParser::Parse(const ZAMLightXmlInputStream& stream, ZAMLightXmlElement& root) {
+    const ParserHandle parser(XML_ParserCreate(nullptr));
+    if (!parser) {
+        _Error = {"out of memory"};
+        return -1;
+    }
+    try {
+        ParseRun run(parser.get());
+        const bool complete = run.Run(stream.GetBytes());
+        root = run.GetDocument()->IsEmpty() ? ZAMLightXmlElement() : ZAMLightXmlElement(run.GetDocument(), 0);
+        _Error = complete ? ZAMLightXmlError() : run.GetError();
+        return complete ? 1 : -1;
+    } catch (const std::bad_alloc&) {
+        _Error = {"out of memory"};
+        return -1;
+    }
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/base/ZAMExport.h"
+#include "framework/lightxml/ZAMLightXmlElement.h"
+#include "framework/lightxml/ZAMLightXmlInputStream.h"
+
+#include <cstdint>
+#include <string>
+
+/// Elements nest at most this deep, the root included, so that walking a document needs a small stack.
+inline constexpr int kZAMLightXmlMaximumDepth = 256;
+
+/// Why a document could not be read to its end.
+struct ZAMLightXmlError {
+    std::string reason;       ///< in words for a person
+    std::uint32_t line = 0;   ///< from 1
+    std::uint32_t column = 0; ///< from 1, in characters
+};
+
+/// Reads XML 1.0 documents. Internal entities are expanded within bounds; nothing outside the document is ever opened.
+/// Read are UTF-8, UTF-16, ISO-8859-1, ASCII and the single-byte encodings that the C library knows.
+class ZAM_EXPORT ZAMLightXmlParser {
+public:
+    /// Parses the document into `root`, which becomes its root element. 1 done; -1 on a parse error or when memory is
+    /// out. The elements read before the error stay, `root` among them.
+    int Parse(const ZAMLightXmlInputStream& stream, ZAMLightXmlElement& root);
+
+    /// The error of the last Parse; meaningful after it returned -1.
+    [[nodiscard]] const ZAMLightXmlError& GetError() const { return _Error; }
+
+private:
+    ZAMLightXmlError _Error;
+};
