@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/base/ZAMBaseUnknown.h"
+#include "framework/base/ZAMMetaObject.h"
+#include "framework/base/ZAMRef.h"
+#include "framework/base/ZAMUnicodeString.h"
+#include "framework/model/ZAMPrtTransformAttributes.h"
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+class ZAMPrtGraphicPrimitiveElt;
+
+/// The children of an element, as they are handed out: in drawing order, each with the reference that the container
+/// holds.
+using ZAMPrtChildSpan = std::span<const ZAMRef<ZAMPrtGraphicPrimitiveElt>>;
+
+/// Any element of the print model.
+///
+/// The model is what stands between reading a document and drawing it. It holds numbers in user units (90 to the inch,
+/// y upward) and resolved values: no units or percentages, no inheritance, no relative commands, no references that are
+/// still to be looked up. Colours are indices into the colour table of the image element above.
+class ZAM_EXPORT ZAMPrtGraphicPrimitiveElt : public ZAMBaseUnknown {
+public:
+    static constexpr std::string_view ClassName() { return "ZAMPrtGraphicPrimitiveElt"; }
+    static const ZAMMetaObject& MetaObject();
+
+    /// The constant description of the element's class.
+    [[nodiscard]] virtual const ZAMMetaObject& GetMetaObject() const = 0;
+    /// The name of the element's class: kinds are told apart by comparing it with a class's ClassName().
+    [[nodiscard]] virtual std::string_view IsA() const = 0;
+    [[nodiscard]] bool IsAKindOf(std::string_view className) const { return GetMetaObject().IsAKindOf(className); }
+    /// Elements are not created by name: always null.
+    static ZAMPrtGraphicPrimitiveElt* CreateItself() { return nullptr; }
+
+    /// A deep copy, or null when memory is out.
+    [[nodiscard]] virtual ZAMRef<ZAMPrtGraphicPrimitiveElt> Duplicate() const = 0;
+
+    /// The element's children; valid until they change, empty for an element that is no container.
+    [[nodiscard]] virtual ZAMPrtChildSpan GetChildren() const { return {}; }
+
+    void SetID(std::string_view id) { _Id = id; }
+    [[nodiscard]] const ZAMUnicodeString& GetID() const { return _Id; }
+    void SetTitle(std::string_view title) { Texts().title = title; }
+    [[nodiscard]] std::string_view GetTitle() const { return _Texts ? _Texts->title.View() : std::string_view(); }
+    void SetDescription(std::string_view description) { Texts().description = description; }
+    [[nodiscard]] std::string_view GetDescription() const {
+        return _Texts ? _Texts->description.View() : std::string_view();
+    }
+
+    [[nodiscard]] const ZAMPrtTransformAttributes& GetTransformAttributes() const { return _Transform; }
+    void SetTransformAttributes(const ZAMPrtTransformAttributes& transform) { _Transform = transform; }
+
+protected:
+    ZAMPrtGraphicPrimitiveElt() = default;
+    ZAMPrtGraphicPrimitiveElt(const ZAMPrtGraphicPrimitiveElt& other);
+    ~ZAMPrtGraphicPrimitiveElt() override = default;
+
+    /// Makes a fresh copy independent of its source; containers replace the children they share by copies.
+    virtual void OwnChildren() {}
+
+private:
+    // Few elements have one, so that they stay out of the others.
+    struct RareTexts {
+        ZAMUnicodeString title;
+        ZAMUnicodeString description;
+    };
+
+    RareTexts& Texts();
+
+    ZAMPrtTransformAttributes _Transform;
+    ZAMUnicodeString _Id;
+    std::unique_ptr<RareTexts> _Texts;
+};
+
+/// The element as a `T`, or null when its class is not exactly `T`.
+template <class T> T* ZAMPrtCast(ZAMPrtGraphicPrimitiveElt* element) {
+    return element != nullptr && element->IsA() == T::ClassName() ? static_cast<T*>(element) : nullptr;
+}
+template <class T> const T* ZAMPrtCast(const ZAMPrtGraphicPrimitiveElt* element) {
+    return element != nullptr && element->IsA() == T::ClassName() ? static_cast<const T*>(element) : nullptr;
+}
