@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "framework/print/ZAMPrintGenerator.h"
+
+ZAMPrintGenerator::~ZAMPrintGenerator() = default;

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "framework/print/ZAMPrintPageRender.h"
+
+#include "framework/print/ZAMPrintModelBoundingBoxComputer.h"
+#include "framework/print/ZAMPrintOutline.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Traces into a path of lines and cubics.
+class PathSink {
+public:
+    explicit PathSink(ZAMPrintPath& path) : _Path(path) { _Path.Clear(); }
+
+    void MoveTo(const ZAMMathPoint2D& point) {
+        _Path.MoveTo(point);
+        _Current = point;
+    }
+    void LineTo(const ZAMMathPoint2D& point) {
+        _Path.LineTo(point);
+        _Current = point;
+    }
+    void QuadraticTo(const ZAMMathPoint2D& control, const ZAMMathPoint2D& end) {
+        CubicTo(TwoThirds(_Current, control), TwoThirds(end, control), end);
+    }
+    void CubicTo(const ZAMMathPoint2D& control1, const ZAMMathPoint2D& control2, const ZAMMathPoint2D& end) {
+        _Path.CubicTo(control1, control2, end);
+        _Current = end;
+    }
+    void ArcTo(const ZAMMathEllipticalArc& arc) {
+        arc.ForEachCubic(
+            [this](const auto& control1, const auto& control2, const auto& end) { CubicTo(control1, control2, end); });
+    }
+    void ClosePath() { _Path.ClosePath(); }
+
+private:
+    static ZAMMathPoint2D TwoThirds(const ZAMMathPoint2D& from, const ZAMMathPoint2D& to) {
+        return {from.x + (to.x - from.x) * 2.0 / 3.0, from.y + (to.y - from.y) * 2.0 / 3.0};
+    }
+
+    ZAMPrintPath& _Path;
+    ZAMMathPoint2D _Current;
+};
+
+bool IsDashPattern(std::span<const float> lengths) {
+    float longest = 0.0F;
+    for (const float length : lengths) {
+        if (!std::isfinite(length) || length < 0.0F) {
+            return false;
+        }
+        longest = std::max(longest, length);
+    }
+    return longest > 0.0F;
+}
+
+bool Strokes(ZAMPrtDrawStyle style) {
+    return style != ZAMPrtDrawStyle::None && style != ZAMPrtDrawStyle::Fill;
+}
+
+bool Fills(ZAMPrtDrawStyle style) {
+    return style == ZAMPrtDrawStyle::Fill || style == ZAMPrtDrawStyle::StrokeAndFill;
+}
+
+ZAMPrintLineAttribute OneOf(ZAMPrintLineAttribute code, ZAMPrintLineAttribute first, ZAMPrintLineAttribute last) {
+    return code >= first && code <= last ? code : first;
+}
+
+} // namespace
+
+void ZAMPrintPageRender::DrawChildren(const ZAMPrtGraphicPrimitiveElt& element, const ZAMMathAffine2D& toPage) {
+    for (const auto& child : element.GetChildren()) {
+        DrawElement(*child, toPage * child->GetTransformAttributes().GetMatrix());
+    }
+}
+
+void ZAMPrintPageRender::DrawElement(const ZAMPrtGraphicPrimitiveElt& element, const ZAMMathAffine2D& toPage) {
+    const ZAMPrtGraphicPrimitiveElt* const pointer = &element;
+    if (const auto* group = ZAMPrtCast<ZAMPrtGroupElt>(pointer)) {
+        DrawGroup(*group, toPage);
+    } else if (const auto* figure = ZAMPrtCast<ZAMPrtClosedFigureElt>(pointer)) {
+        PathSink sink(_Path);
+        ZAMPrintTraceFigure(*figure, sink);
+        PaintPath(*figure, toPage);
+    } else if (ZAMPrintShapes::Visit(pointer, [&](const auto& shape) {
+                   PathSink sink(_Path);
+                   ZAMPrintTraceShape(shape, sink);
+                   PaintPath(shape, toPage);
+               })) {
+    } else if (ZAMPrintPieces::Visit(pointer, [&](const auto& piece) {
+                   PathSink sink(_Path);
+                   ZAMPrintContourTracer tracer(sink);
+                   tracer.Add(piece);
+                   StrokePath(piece.GetStrokeAttributes(), toPage);
+               })) {
+    } else {
+        DrawChildren(element, toPage);
+    }
+}
+
+void ZAMPrintPageRender::DrawGroup(const ZAMPrtGroupElt& group, const ZAMMathAffine2D& toPage) {
+    if (group.IsContinuousOutline()) {
+        DrawOutlines(group, toPage);
+    } else {
+        DrawChildren(group, toPage);
+    }
+    AddLink(group, toPage);
+}
+
+// Pieces that follow one another with the same stroke are one path; whatever else stands between them is drawn in its
+// turn.
+void ZAMPrintPageRender::DrawOutlines(const ZAMPrtGroupElt& group, const ZAMMathAffine2D& toPage) {
+    const auto children = group.GetChildren();
+    auto child = children.begin();
+    while (child != children.end()) {
+        const ZAMPrtStrokeAttributes* stroke = nullptr;
+        PathSink sink(_Path);
+        ZAMPrintContourTracer tracer(sink);
+        for (; child != children.end(); ++child) {
+            const ZAMPrtGraphicPrimitiveElt* const element = child->Get();
+            bool joins = false;
+            ZAMPrintPieces::Visit(element, [&](const auto& piece) {
+                joins = piece.GetTransformAttributes().IsIdentity() &&
+                        (stroke == nullptr || *stroke == piece.GetStrokeAttributes());
+                if (joins) {
+                    stroke = &piece.GetStrokeAttributes();
+                    tracer.Add(piece);
+                }
+            });
+            if (!joins) {
+                break;
+            }
+        }
+        tracer.Finish();
+        if (stroke != nullptr) {
+            StrokePath(*stroke, toPage);
+        } else {
+            DrawElement(**child, toPage * (*child)->GetTransformAttributes().GetMatrix());
+            ++child;
+        }
+    }
+}
+
+void ZAMPrintPageRender::AddLink(const ZAMPrtGroupElt& group, const ZAMMathAffine2D& toPage) {
+    const ZAMPrintLinkURI link = group.GetGroupAttributes().GetLinkURI();
+    if (link.GetBaseURL().IsEmpty()) {
+        return;
+    }
+    const ZAMMathBox2D page{0.0, 0.0, _Placement.pageWidth, _Placement.pageHeight};
+    const ZAMMathBox2D area = ZAMPrintModelBoundingBoxComputer::BoxOf(group, toPage).Intersection(page);
+    if (!area.IsEmpty()) {
+        _Generator.AddLink(area, link.GetBaseURL());
+    }
+}
+
+void ZAMPrintPageRender::PaintPath(const ZAMPrtPaintedElt& element, const ZAMMathAffine2D& toPage) {
+    const ZAMPrtDrawStyle style = element.GetDrawStyle();
+    DrawPath(Fills(style) ? &element.GetFillAttributes() : nullptr,
+             Strokes(style) ? &element.GetStrokeAttributes() : nullptr, toPage);
+}
+
+void ZAMPrintPageRender::StrokePath(const ZAMPrtStrokeAttributes& stroke, const ZAMMathAffine2D& toPage) {
+    DrawPath(nullptr, &stroke, toPage);
+}
+
+void ZAMPrintPageRender::DrawPath(const ZAMPrtFillAttributes* fill, const ZAMPrtStrokeAttributes* stroke,
+                                  const ZAMMathAffine2D& toPage) {
+    ZAMPrintFill resolvedFill;
+    ZAMPrintPen resolvedPen;
+    const bool fills = fill != nullptr && Resolve(*fill, resolvedFill);
+    const bool strokes = stroke != nullptr && Resolve(*stroke, resolvedPen);
+    if ((fills || strokes) && !_Path.IsEmpty()) {
+        _Generator.DrawPath(_Path, toPage, fills ? &resolvedFill : nullptr, strokes ? &resolvedPen : nullptr);
+    }
+}
+
+bool ZAMPrintPageRender::Resolve(unsigned int index, unsigned char transparency, ZAMPrintColour& colour) const {
+    const ZAMPrtColourTable* const table = _Image.GetColourTable();
+    const ZAMPrtColourTable::Colour* const entry = table == nullptr ? nullptr : table->GetColour(index);
+    if (entry == nullptr || transparency == 0) {
+        return false;
+    }
+    colour = {entry->red, entry->green, entry->blue, transparency};
+    return true;
+}
+
+bool ZAMPrintPageRender::Resolve(const ZAMPrtFillAttributes& attributes, ZAMPrintFill& fill) const {
+    fill.rule = attributes.GetFillRule() == ZAMPrtFillRule::EvenOdd ? ZAMPrtFillRule::EvenOdd : ZAMPrtFillRule::NonZero;
+    return Resolve(attributes.GetFillColourIndex(), attributes.GetFillColourTransparency(), fill.colour);
+}
+
+bool ZAMPrintPageRender::Resolve(const ZAMPrtStrokeAttributes& attributes, ZAMPrintPen& pen) const {
+    pen.width = attributes.GetStrokeWidth();
+    if (!std::isfinite(pen.width) || pen.width <= 0.0) {
+        return false;
+    }
+    pen.cap = OneOf(attributes.GetStrokeCap(), ZAMPrintLineAttribute::CapButt, ZAMPrintLineAttribute::CapRound);
+    pen.join = OneOf(attributes.GetStrokeJoin(), ZAMPrintLineAttribute::JoinMiter, ZAMPrintLineAttribute::JoinBevel);
+    const auto dashes = attributes.GetStrokeTypePattern();
+    if (attributes.GetStrokeType() == ZAMPrintLineAttribute::UserPattern && IsDashPattern(dashes)) {
+        pen.dashes = dashes;
+    }
+    return Resolve(attributes.GetStrokeColourIndex(), attributes.GetStrokeColourTransparency(), pen.colour);
+}
