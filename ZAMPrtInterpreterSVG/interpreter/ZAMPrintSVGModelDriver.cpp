@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVGModelDriver.h"
+
+ZAMPrintSVGModelDriver::~ZAMPrintSVGModelDriver() = default;

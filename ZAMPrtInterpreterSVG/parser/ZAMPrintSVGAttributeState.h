@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/model/ZAMPrtFillAttributes.h"
+#include "framework/model/ZAMPrtStrokeAttributes.h"
+
+#include <utility>
+
+/// The attributes that an element hands down to its children: a plain value.
+struct ZAMPrintSVGAttributeState {
+    unsigned int _StrokeColourIndex = 0; ///< what "currentColor" means as a stroke
+    unsigned int _FillColourIndex = 0;   ///< what "currentColor" means as a fill
+    ZAMPrtDrawStyle _DrawStyle = ZAMPrtDrawStyle::Fill;
+    ZAMPrtStrokeAttributes _StrokeAttributes;
+    ZAMPrtFillAttributes _FillAttributes;
+};
+
+/// Saves the state of a parser and writes it back at the end of the scope, so that nothing an element sets reaches its
+/// siblings.
+class ZAMPrintSVGStateScope {
+public:
+    explicit ZAMPrintSVGStateScope(ZAMPrintSVGAttributeState& state) : _State(state), _Saved(state) {}
+    ZAMPrintSVGStateScope(const ZAMPrintSVGStateScope&) = delete;
+    ZAMPrintSVGStateScope& operator=(const ZAMPrintSVGStateScope&) = delete;
+    ~ZAMPrintSVGStateScope() { _State = std::move(_Saved); }
+
+private:
+    ZAMPrintSVGAttributeState& _State;
+    ZAMPrintSVGAttributeState _Saved;
+};

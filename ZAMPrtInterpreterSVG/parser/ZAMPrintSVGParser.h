@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/base/ZAMRef.h"
+#include "framework/base/ZAMUnicodeString.h"
+#include "framework/lightxml/ZAMLightXmlElement.h"
+#include "framework/model/ZAMPrtAllElements.h"
+#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGLengthReader.h"
+#include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGAttributeState.h"
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+/// Walks one root `svg` element and fills a print model with what it finds. A parser serves for one root.
+///
+/// Handlers of elements give 0 when done and -1 for a null target. The operations that offer a child element to the
+/// handlers of one kind give 1 when the name is not theirs, so that the next operation is tried. Readers of values give
+/// 1 when a value was stored. Whatever is not understood is skipped in silence and leaves the state as it was.
+class ZAMPrintSVGParser : private ZAMPrintSVGAttributeState {
+public:
+    ZAMPrintSVGParser() = default;
+    ZAMPrintSVGParser(const ZAMPrintSVGParser&) = delete;
+    ZAMPrintSVGParser& operator=(const ZAMPrintSVGParser&) = delete;
+    virtual ~ZAMPrintSVGParser();
+
+    /// The path of the document's file, for relative references. Always 1.
+    int SetCurrentPath(const ZAMUnicodeString& path);
+
+    /// The document's root: adds an image element to the model. -1 when the model is null or memory is out, else what
+    /// the last child gave.
+    int ParseSVGElement(const ZAMLightXmlElementItf& element, ZAMPrtModel* model);
+
+    /// Turn the document's downward y axis into the model's upward one.
+    bool _FlipY = true;
+    /// Put the document's lower left corner at the origin instead of flipping about the document's height.
+    bool _FlipToOrigin = false;
+
+private:
+    // Structure: svg, g, a and the dispatch of children.
+    int ParseSVGElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
+    int ParseGroupElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
+    int ParseLinkElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
+    int ParseChildren(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent);
+    int ParseChildEltAsDescriptionElement(const ZAMLightXmlElementItf& element, std::string_view name,
+                                          ZAMPrtGraphicPrimitiveElt* parent);
+    int ParseChildEltAsGraphicPrimitiveElement(const ZAMLightXmlElementItf& element, std::string_view name,
+                                               ZAMPrtGraphicPrimitiveElt* parent);
+    int ParseChildEltAsStructureElement(const ZAMLightXmlElementItf& element, std::string_view name,
+                                        ZAMPrtGraphicPrimitiveElt* parent);
+    int ParseChildEltAsHyperlinkElement(const ZAMLightXmlElementItf& element, std::string_view name,
+                                        ZAMPrtGraphicPrimitiveElt* parent);
+    static int AddChildElt(ZAMPrtGraphicPrimitiveElt* parent, ZAMPrtGraphicPrimitiveElt* child);
+    void ParseDescriptions(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* target);
+
+    struct ElementRow {
+        std::string_view name;
+        int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent);
+    };
+    int ParseChildAs(std::span<const ElementRow> rows, const ZAMLightXmlElementItf& element, std::string_view name,
+                     ZAMPrtGraphicPrimitiveElt* parent);
+    template <class Element, int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, Element*)>
+    int ParseNew(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent);
+
+    // The root and the nested svg.
+    int BeginImage(ZAMPrtModel& model);
+    void ReadImageFrame(const ZAMLightXmlElementItf& element);
+    void FitImageToContent();
+    struct ViewBox {
+        double minX;
+        double minY;
+        double width;
+        double height;
+        bool differs; ///< it was given and is not the document's own box
+    };
+    [[nodiscard]] ViewBox ReadNestedViewBox(const ZAMLightXmlElementItf& element) const;
+    void PlaceNestedSvg(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt& group) const;
+    void AddFlip(ZAMPrtTransformAttributes& transform) const;
+
+    // Shapes and paths.
+    int ParseRectElement(const ZAMLightXmlElementItf& element, ZAMPrtRectangleElt* rect);
+    int ParseCircleElement(const ZAMLightXmlElementItf& element, ZAMPrtCircleElt* circle);
+    int ParseEllipseElement(const ZAMLightXmlElementItf& element, ZAMPrtEllipseElt* ellipse);
+    int ParseLineElement(const ZAMLightXmlElementItf& element, ZAMPrtLineElt* line);
+    int ParsePolylineElement(const ZAMLightXmlElementItf& element, ZAMPrtPolylineElt* polyline);
+    int ParsePolygonElement(const ZAMLightXmlElementItf& element, ZAMPrtPolygonElt* polygon);
+    int ParsePathElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
+    template <class Shape, class ReadGeometry>
+    int ParseShape(const ZAMLightXmlElementItf& element, Shape* shape, ReadGeometry readGeometry);
+    void ParseShapeAttrib(const ZAMLightXmlElementItf& element);
+
+    // Titles and descriptions.
+    int ParseDescElement(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* target);
+    int ParseTitleElement(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* target);
+
+    // Attributes.
+    void ParsePresentationAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive);
+    void ParseOpacityAttrib(const ZAMLightXmlElementItf& element);
+    void ParseColorAttrib(const ZAMLightXmlElementItf& element);
+    void ParseGraphicsAttrib(const ZAMLightXmlElementItf& element);
+    void ParsePaintAttrib(const ZAMLightXmlElementItf& element);
+    void ParseStyleAttrib(const ZAMLightXmlElementItf& element);
+    static void ParseCoreAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive);
+    void ParseTransformAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive) const;
+    static void ParseXLinkReplaceAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive);
+
+    // Properties, as attributes and in style.
+    enum class ReadingOperation : std::uint8_t { Opacity, Color, Graphics, Paint };
+    // What the properties of one reading operation, or of one style, have to say together; applied at its end.
+    struct PendingPaint {
+        float strokeOpacity = 1.0F;
+        float fillOpacity = 1.0F;
+        int strokeFlag = -1; ///< 1 turns the stroke on, 0 off, -1 says nothing
+        int fillFlag = -1;
+    };
+    using PropertyReader = void (ZAMPrintSVGParser::*)(std::string_view value, PendingPaint& pending);
+    struct PropertyRow {
+        ZAMLightXmlName name;
+        ReadingOperation operation;
+        PropertyReader asAttribute; ///< null where the attribute has no effect
+        PropertyReader inStyle;     ///< null where the declaration has no effect
+    };
+    static const PropertyRow kProperties[];
+    void ReadAttributes(const ZAMLightXmlElementItf& element, ReadingOperation operation);
+    void ReadDeclaration(std::string_view declaration, PendingPaint& pending);
+    void Apply(const PendingPaint& pending);
+
+    void ReadOpacity(std::string_view value, PendingPaint& pending);
+    void ReadStrokeOpacity(std::string_view value, PendingPaint& pending);
+    void ReadFillOpacity(std::string_view value, PendingPaint& pending);
+    void ReadColor(std::string_view value, PendingPaint& pending);
+    void ReadDisplay(std::string_view value, PendingPaint& pending);
+    void ReadVisibility(std::string_view value, PendingPaint& pending);
+    void ReadFillAttribute(std::string_view value, PendingPaint& pending);
+    void ReadFill(std::string_view value, PendingPaint& pending);
+    void ReadFillRule(std::string_view value, PendingPaint& pending);
+    void ReadStroke(std::string_view value, PendingPaint& pending);
+    void ReadDashArray(std::string_view value, PendingPaint& pending);
+    void ReadLineCap(std::string_view value, PendingPaint& pending);
+    void ReadLineJoin(std::string_view value, PendingPaint& pending);
+    void ReadStrokeWidth(std::string_view value, PendingPaint& pending);
+    void ReadFillPaint(ZAMUnicodeString& text, PendingPaint& pending);
+
+    int GetColor(ZAMUnicodeString& text, unsigned int& index);
+
+    // Lengths and coordinates, of a text and of an element's attribute.
+    int GetLength(std::string_view text, double& result) const;
+    int GetHorLength(std::string_view text, double& result) const;
+    int GetVertLength(std::string_view text, double& result) const;
+    int GetLength(const ZAMLightXmlElementItf& element, const ZAMLightXmlName& name, double& result) const;
+    int GetCoordinate(const ZAMLightXmlElementItf& element, const ZAMLightXmlName& name, double& result) const;
+    int GetHorLength(const ZAMLightXmlElementItf& element, const ZAMLightXmlName& name, double& result) const;
+    int GetVertLength(const ZAMLightXmlElementItf& element, const ZAMLightXmlName& name, double& result) const;
+    int GetXCoordinate(const ZAMLightXmlElementItf& element, const ZAMLightXmlName& name, double& result) const;
+    int GetYCoordinate(const ZAMLightXmlElementItf& element, const ZAMLightXmlName& name, double& result) const;
+    [[nodiscard]] ZAMPrintSVGLengthReader Lengths() const { return {_ImageWidth, _ImageHeight, _FlipY}; }
+
+    ZAMPrtModel* _Model = nullptr;
+    ZAMRef<ZAMPrtImageElt> _Image;
+    double _ImageWidth = 0.0;
+    double _ImageHeight = 0.0; ///< also what y coordinates are flipped about
+    ZAMUnicodeString _CurrentPath;
+};

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+// The basic shapes (SVG 1.1, 9) and the path element (8). Values that are missing or unreadable are 0, y coordinates
+// the flipped 0; sizes are handed on unchecked.
+#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPathParser.h"
+#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPointsParser.h"
+#include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGParser.h"
+
+#include <type_traits>
+
+// The order in which shapes read their attributes; style comes last and wins.
+void ZAMPrintSVGParser::ParseShapeAttrib(const ZAMLightXmlElementItf& element) {
+    ParseGraphicsAttrib(element);
+    ParseOpacityAttrib(element);
+    ParseColorAttrib(element);
+    ParsePaintAttrib(element);
+    ParseStyleAttrib(element);
+}
+
+template <class Shape, class ReadGeometry>
+int ZAMPrintSVGParser::ParseShape(const ZAMLightXmlElementItf& element, Shape* shape, ReadGeometry readGeometry) {
+    if (shape == nullptr) {
+        return -1;
+    }
+    const ZAMPrintSVGStateScope saved(*this);
+    ParseShapeAttrib(element);
+    shape->SetStrokeAttributes(_StrokeAttributes);
+    if constexpr (std::is_base_of_v<ZAMPrtPaintedElt, Shape>) {
+        shape->SetDrawStyle(_DrawStyle);
+        shape->SetFillAttributes(_FillAttributes);
+    }
+    ParseCoreAttrib(element, shape);
+    ParseTransformAttrib(element, shape);
+    readGeometry();
+    ParseDescriptions(element, shape);
+    return 0;
+}
+
+// Every rectangle has square corners: its radii reach nothing.
+int ZAMPrintSVGParser::ParseRectElement(const ZAMLightXmlElementItf& element, ZAMPrtRectangleElt* rect) {
+    return ParseShape(element, rect, [&] {
+        ZAMMathPoint2D corner;
+        double width = 0.0;
+        double height = 0.0;
+        GetXCoordinate(element, "x", corner.x);
+        GetYCoordinate(element, "y", corner.y);
+        GetHorLength(element, "width", width);
+        GetVertLength(element, "height", height);
+        rect->SetCorners(corner, {corner.x + width, _FlipY ? corner.y - height : corner.y + height});
+    });
+}
+
+int ZAMPrintSVGParser::ParseCircleElement(const ZAMLightXmlElementItf& element, ZAMPrtCircleElt* circle) {
+    return ParseShape(element, circle, [&] {
+        ZAMMathPoint2D center;
+        double radius = 0.0;
+        GetXCoordinate(element, "cx", center.x);
+        GetYCoordinate(element, "cy", center.y);
+        GetLength(element, "r", radius);
+        circle->SetCenter(center);
+        circle->SetRadius(radius);
+    });
+}
+
+int ZAMPrintSVGParser::ParseEllipseElement(const ZAMLightXmlElementItf& element, ZAMPrtEllipseElt* ellipse) {
+    return ParseShape(element, ellipse, [&] {
+        ZAMMathPoint2D center;
+        double xRadius = 0.0;
+        double yRadius = 0.0;
+        GetXCoordinate(element, "cx", center.x);
+        GetYCoordinate(element, "cy", center.y);
+        GetHorLength(element, "rx", xRadius);
+        GetVertLength(element, "ry", yRadius);
+        ellipse->SetCenter(center);
+        ellipse->SetXRadius(xRadius);
+        ellipse->SetYRadius(yRadius);
+    });
+}
+
+int ZAMPrintSVGParser::ParseLineElement(const ZAMLightXmlElementItf& element, ZAMPrtLineElt* line) {
+    return ParseShape(element, line, [&] {
+        ZAMMathPoint2D start;
+        ZAMMathPoint2D end;
+        GetXCoordinate(element, "x1", start.x);
+        GetYCoordinate(element, "y1", start.y);
+        GetXCoordinate(element, "x2", end.x);
+        GetYCoordinate(element, "y2", end.y);
+        line->SetStartPoint(start);
+        line->SetEndPoint(end);
+    });
+}
+
+int ZAMPrintSVGParser::ParsePolylineElement(const ZAMLightXmlElementItf& element, ZAMPrtPolylineElt* polyline) {
+    return ParseShape(element, polyline, [&] {
+        ZAMPrintSVGPointsParser parser;
+        parser.SetImageSize(_ImageWidth, _ImageHeight);
+        parser.ParsePointsString(polyline, element.GetAttribute("points"));
+    });
+}
+
+int ZAMPrintSVGParser::ParsePolygonElement(const ZAMLightXmlElementItf& element, ZAMPrtPolygonElt* polygon) {
+    return ParseShape(element, polygon, [&] {
+        ZAMPrintSVGPointsParser parser;
+        parser.SetImageSize(_ImageWidth, _ImageHeight);
+        parser.ParsePointsString(polygon, element.GetAttribute("points"));
+    });
+}
+
+// The group itself bears no paint: it goes to the pieces.
+int ZAMPrintSVGParser::ParsePathElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group) {
+    if (group == nullptr) {
+        return -1;
+    }
+    const ZAMPrintSVGStateScope saved(*this);
+    ParseShapeAttrib(element);
+    ParseCoreAttrib(element, group);
+    ParseTransformAttrib(element, group);
+    group->SetContinuousOutline(true);
+    ZAMPrintSVGPathParser parser;
+    parser.SetImageSize(_ImageWidth, _ImageHeight);
+    parser.SetPaintAttributes(_DrawStyle, _StrokeAttributes, _FillAttributes);
+    parser.ParsePathString(group, element.GetAttribute("d"));
+    ParseDescriptions(element, group);
+    return 0;
+}

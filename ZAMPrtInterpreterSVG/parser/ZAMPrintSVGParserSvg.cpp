@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+// The svg element (SVG 1.1, 5.1): the root, which becomes the image element, and the nested one, which becomes a group.
+#include "framework/print/ZAMPrintModelBoundingBoxComputer.h"
+#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGViewBoxParser.h"
+#include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGParser.h"
+
+namespace {
+
+// Decides what differs from the identity: 0.01 in single precision.
+constexpr double kTolerance = 0.01F;
+
+bool IsNear(double value, double reference) {
+    return !(value > reference + kTolerance) && !(value < reference - kTolerance);
+}
+
+} // namespace
+
+int ZAMPrintSVGParser::ParseSVGElement(const ZAMLightXmlElementItf& element, ZAMPrtModel* model) {
+    if (model == nullptr) {
+        return -1;
+    }
+    _Model = model;
+    if (BeginImage(*model) != 1) {
+        return -1;
+    }
+    static_cast<ZAMPrintSVGAttributeState&>(*this) = {};
+    ParsePresentationAttrib(element, _Image.Get());
+    ParseStyleAttrib(element);
+    ParseCoreAttrib(element, _Image.Get());
+    ReadImageFrame(element);
+    const int result = ParseChildren(element, _Image.Get());
+    FitImageToContent();
+    return result;
+}
+
+int ZAMPrintSVGParser::BeginImage(ZAMPrtModel& model) {
+    _Image = ZAMNew<ZAMPrtImageElt>();
+    if (!_Image) {
+        return -1;
+    }
+    model.AddImage(_Image.Get());
+    const auto table = ZAMNew<ZAMPrtColourTable>();
+    if (!table) {
+        return -1;
+    }
+    _Image->SetColourTable(table.Get());
+    unsigned int black = 0;
+    table->AddColour(0, 0, 0, black);
+    return 1;
+}
+
+// The viewBox sets the origin and the size of the image. It never scales it: the scale is the size divided by itself,
+// which is 1 unless the size is 0 or not finite.
+void ZAMPrintSVGParser::ReadImageFrame(const ZAMLightXmlElementItf& element) {
+    GetLength(element, "width", _ImageWidth);
+    GetLength(element, "height", _ImageHeight);
+    _Image->SetSize(_ImageWidth, _ImageHeight);
+    constexpr int kUserUnits = 1;
+    _Image->SetSizeUnit(kUserUnits);
+
+    const std::string_view viewBox = element.GetAttribute("viewBox");
+    if (viewBox.empty()) {
+        if (_FlipToOrigin) {
+            _Image->SetOrigin({0.0, -_ImageHeight});
+            _ImageHeight = 0.0;
+        }
+        return;
+    }
+    double minX = 0.0;
+    double minY = 0.0;
+    ZAMPrintSVGViewBoxParser::ParseViewBoxString(viewBox, minX, minY, _ImageWidth, _ImageHeight);
+    if (_FlipToOrigin) {
+        _Image->SetOrigin({minX, -(_ImageHeight + minY)});
+    } else {
+        _Image->SetOrigin({minX, _FlipY ? -minY : minY});
+    }
+    _Image->SetSize(_ImageWidth, _ImageHeight);
+    const double heightRatio = _ImageHeight / _ImageHeight;
+    const double widthRatio = _ImageWidth / _ImageWidth;
+    const double scale = heightRatio < widthRatio ? heightRatio : widthRatio;
+    _Image->SetMatrix({scale, 0.0, 0.0, scale});
+    if (_FlipToOrigin) {
+        _ImageHeight = 0.0;
+    }
+}
+
+// A document that says nothing of its size is as large as what it holds.
+void ZAMPrintSVGParser::FitImageToContent() {
+    if (!(_ImageWidth <= 0.0 && _ImageHeight <= 0.0)) {
+        return;
+    }
+    double xMin = 0.0;
+    double xMax = 0.0;
+    double yMin = 0.0;
+    double yMax = 0.0;
+    ZAMPrintModelBoundingBoxComputer::Compute(_Image.Get(), xMin, xMax, yMin, yMax);
+    _Image->SetOrigin({xMin, yMin});
+    _Image->SetSize(xMax - xMin, yMax - yMin);
+}
+
+int ZAMPrintSVGParser::ParseSVGElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group) {
+    if (group == nullptr) {
+        return -1;
+    }
+    const ZAMPrintSVGStateScope saved(*this);
+    ParsePresentationAttrib(element, group);
+    ParseStyleAttrib(element);
+    ParseCoreAttrib(element, group);
+    PlaceNestedSvg(element, *group);
+    return ParseChildren(element, group);
+}
+
+ZAMPrintSVGParser::ViewBox ZAMPrintSVGParser::ReadNestedViewBox(const ZAMLightXmlElementItf& element) const {
+    ViewBox box{0.0, 0.0, _ImageWidth, _ImageHeight, false};
+    const int given = ZAMPrintSVGViewBoxParser::ParseViewBoxString(element.GetAttribute("viewBox"), box.minX, box.minY,
+                                                                   box.width, box.height);
+    box.differs = given == 1 && !(IsNear(box.minX, 0.0) && IsNear(box.minY, 0.0) && IsNear(box.width, _ImageWidth) &&
+                                  IsNear(box.height, _ImageHeight));
+    return box;
+}
+
+void ZAMPrintSVGParser::AddFlip(ZAMPrtTransformAttributes& transform) const {
+    if (_FlipY) {
+        transform.AddTranslation({0.0, _ImageHeight});
+        transform.AddScaleY(-1.0);
+    }
+}
+
+// The group is still empty, so that without a viewBox there is no content to scale.
+void ZAMPrintSVGParser::PlaceNestedSvg(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt& group) const {
+    double x = 0.0;
+    double y = 0.0;
+    double width = 0.0;
+    double height = 0.0;
+    GetXCoordinate(element, "x", x);
+    GetYCoordinate(element, "y", y);
+    GetHorLength(element, "width", width);
+    GetVertLength(element, "height", height);
+    const ViewBox viewBox = ReadNestedViewBox(element);
+    ZAMPrtTransformAttributes transform = group.GetTransformAttributes();
+
+    // y is held against the height also where it is not flipped.
+    if (!IsNear(x, 0.0) || !IsNear(y, _ImageHeight) || width > 0.0 || height > 0.0) {
+        double xScale = 1.0;
+        double yScale = 1.0;
+        // The box is measured by its edges, rounding included.
+        const double contentWidth = viewBox.minX + viewBox.width - viewBox.minX;
+        const double contentHeight = viewBox.minY + viewBox.height - viewBox.minY;
+        if (viewBox.differs && contentWidth > 0.0 && contentHeight > 0.0 && width > 0.0 && height > 0.0) {
+            xScale = width / contentWidth;
+            yScale = height / contentHeight;
+        }
+        AddFlip(transform);
+        if (_FlipY) {
+            y = _ImageHeight - y;
+        }
+        if (!IsNear(x, 0.0) || !IsNear(y, 0.0)) {
+            transform.AddTranslation({x, y});
+        }
+        if (!IsNear(xScale, 1.0)) {
+            transform.AddScaleX(xScale);
+        }
+        if (!IsNear(yScale, 1.0)) {
+            transform.AddScaleY(yScale);
+        }
+        AddFlip(transform);
+    }
+    if (viewBox.differs) {
+        AddFlip(transform);
+        transform.AddTranslation({-viewBox.minX, -viewBox.minY});
+        AddFlip(transform);
+    }
+    group.SetTransformAttributes(transform);
+}
