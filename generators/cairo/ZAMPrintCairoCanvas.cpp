@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+#include "generators/cairo/ZAMPrintCairoCanvas.h"
+
+#include "generators/cairo/ZAMPrintCairoColour.h"
+#include "generators/cairo/ZAMPrintCairoContour.h"
+#include "generators/cairo/ZAMPrintCairoFillCutter.h"
+#include "generators/cairo/ZAMPrintCairoLimits.h"
+#include "generators/cairo/ZAMPrintCairoStrokeCutter.h"
+#include "generators/cairo/ZAMPrintCairoWorld.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace {
+
+void Emit(cairo_t* context, const ZAMPrintPath& path) {
+    const ZAMMathPoint2D* p = path.GetPoints().data();
+    for (const ZAMPrintPath::Verb verb : path.GetVerbs()) {
+        switch (verb) {
+        case ZAMPrintPath::Verb::MoveTo:
+            cairo_move_to(context, p[0].x, p[0].y);
+            break;
+        case ZAMPrintPath::Verb::LineTo:
+            cairo_line_to(context, p[0].x, p[0].y);
+            break;
+        case ZAMPrintPath::Verb::CubicTo:
+            cairo_curve_to(context, p[0].x, p[0].y, p[1].x, p[1].y, p[2].x, p[2].y);
+            break;
+        case ZAMPrintPath::Verb::ClosePath:
+            cairo_close_path(context);
+            break;
+        }
+        p += ZAMPrintPath::PointsOf(verb);
+    }
+}
+
+/// The two axes of the plane fall on one line, or on none.
+bool IsSingular(const ZAMMathAffine2D& map) {
+    const double largest = std::max({std::abs(map.a), std::abs(map.b), std::abs(map.c), std::abs(map.d)});
+    const ZAMMath2x2Matrix unit{map.a / largest, map.c / largest, map.b / largest, map.d / largest};
+    return !map.IsFinite() || !unit.IsInvertible();
+}
+
+ZAMPrintPath MakeRectangle(const ZAMMathBox2D& box) {
+    ZAMPrintPath path;
+    path.MoveTo({box.xMin, box.yMin});
+    path.LineTo({box.xMax, box.yMin});
+    path.LineTo({box.xMax, box.yMax});
+    path.LineTo({box.xMin, box.yMax});
+    path.ClosePath();
+    return path;
+}
+
+/// The length of the path's control polygon in the pen's units.
+double MeasurePath(const ZAMPrintPath& path, const ZAMPrintCairoPen& pen) {
+    double length = 0.0;
+    ZAMMathPoint2D previous;
+    ZAMMathPoint2D start;
+    const auto measureTo = [&](const ZAMMathPoint2D& next) {
+        length += pen.Measure({next.x - previous.x, next.y - previous.y});
+        previous = next;
+    };
+    const ZAMMathPoint2D* point = path.GetPoints().data();
+    for (const ZAMPrintPath::Verb verb : path.GetVerbs()) {
+        if (verb == ZAMPrintPath::Verb::MoveTo) {
+            start = previous = *point++;
+        } else if (verb == ZAMPrintPath::Verb::ClosePath) {
+            measureTo(start);
+        } else {
+            for (std::size_t count = ZAMPrintPath::PointsOf(verb); count > 0; --count) {
+                measureTo(*point++);
+            }
+        }
+    }
+    return length;
+}
+
+} // namespace
+
+ZAMPrintCairoCanvas::ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, double width, double height, double scale)
+    : _Context(cairo_create(surface)), _Kind(kind), _Page{0.0, 0.0, width * scale, height * scale}, _Scale(scale) {}
+
+void ZAMPrintCairoCanvas::Paint(const ZAMPrintColour& colour) {
+    ZAMPrintCairoColour::SetSource(_Context.get(), colour);
+    cairo_paint(_Context.get());
+}
+
+void ZAMPrintCairoCanvas::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) {
+    cairo_save(_Context.get());
+    cairo_set_antialias(_Context.get(), CAIRO_ANTIALIAS_DEFAULT);
+    ++_Clips;
+    const ZAMMathAffine2D toDevice = ToDevice(toPage);
+    if (!area.IsEmpty() && !IsSingular(toDevice)) {
+        ClipTo(area, toDevice);
+    }
+    // Without a path nothing is left open.
+    cairo_clip(_Context.get());
+}
+
+void ZAMPrintCairoCanvas::PopClip() {
+    if (_Clips > 0) {
+        --_Clips;
+        cairo_restore(_Context.get());
+    }
+}
+
+void ZAMPrintCairoCanvas::PopAllClips() {
+    while (_Clips > 0) {
+        PopClip();
+    }
+}
+
+void ZAMPrintCairoCanvas::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                                   const ZAMPrintPen* pen) {
+    const ZAMMathAffine2D toDevice = ToDevice(toPage);
+    const bool fills = fill != nullptr && fill->colour.alpha > 0;
+    std::optional<ZAMPrintCairoPen> stroke;
+    if (pen != nullptr && pen->colour.alpha > 0) {
+        stroke.emplace(*pen, toDevice.Linear());
+    }
+    const bool strokes = stroke && stroke->Paints();
+    if (IsSingular(toDevice) || !(fills || strokes)) {
+        return;
+    }
+    _Path.Assign(path, toDevice);
+    _IsMuchWork = IsMuchWork(strokes ? stroke->GetReach() : 0.0);
+    cairo_set_antialias(_Context.get(), _IsMuchWork ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT);
+    EmitFill();
+    if (fills) {
+        Fill(*fill);
+    }
+    if (strokes) {
+        Stroke(*stroke);
+    }
+    cairo_new_path(_Context.get());
+}
+
+ZAMMathAffine2D ZAMPrintCairoCanvas::ToDevice(const ZAMMathAffine2D& toPage) const {
+    return ZAMMathAffine2D{_Scale, 0.0, 0.0, _Scale, 0.0, 0.0} * toPage;
+}
+
+/// What the page shows of marks that reach so far from their paths.
+ZAMMathBox2D ZAMPrintCairoCanvas::GetView(double reach) const {
+    const double margin = reach + ZAMPrintCairoLimits::kPageMargin;
+    return ZAMPrintCairoWorld::kBox.Intersection(
+        {_Page.xMin - margin, _Page.yMin - margin, _Page.xMax + margin, _Page.yMax + margin});
+}
+
+void ZAMPrintCairoCanvas::ClipTo(const ZAMMathBox2D& area, const ZAMMathAffine2D& toDevice) {
+    // No corner may overflow: an area without a corner would not be the area.
+    constexpr double kFarthest = 1e100;
+    _Path.Assign(MakeRectangle(area.Intersection({-kFarthest, -kFarthest, kFarthest, kFarthest})), toDevice);
+    if (_Path.GetPath().GetVerbs().size() == 5) {
+        cairo_set_fill_rule(_Context.get(), CAIRO_FILL_RULE_WINDING);
+        EmitFill();
+    }
+}
+
+/// Whether cairo would take long to find the path's pixels.
+bool ZAMPrintCairoCanvas::IsMuchWork(double reach) const {
+    const double rows = _Page.Height();
+    double edgeRows = 0.0;
+    double previous = 0.0;
+    for (const ZAMMathPoint2D& point : _Path.GetPath().GetPoints()) {
+        edgeRows += std::min(std::abs(point.y - previous) + reach, rows);
+        previous = point.y;
+    }
+    return _Kind == Kind::Picture && edgeRows > ZAMPrintCairoLimits::kMostEdgeRows;
+}
+
+/// Makes the path the context's, so that its interior is right wherever the page is.
+void ZAMPrintCairoCanvas::EmitFill() {
+    Emit(_Context.get(),
+         _Path.IsNear() ? _Path.GetPath() : ZAMPrintCairoFillCutter::Cut(_Path.GetPath(), GetView(0.0)));
+}
+
+/// The path stays: of a fill and a stroke of one path the PDF makes one operator.
+void ZAMPrintCairoCanvas::Fill(const ZAMPrintFill& fill) {
+    ZAMPrintCairoColour::SetSource(_Context.get(), fill.colour);
+    cairo_set_fill_rule(_Context.get(),
+                        fill.rule == ZAMPrtFillRule::EvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+    cairo_fill_preserve(_Context.get());
+}
+
+void ZAMPrintCairoCanvas::Stroke(ZAMPrintCairoPen& pen) {
+    const double steps = pen.IsDashed() ? pen.CountDashSteps(MeasurePath(_Path.GetPath(), pen)) : 0.0;
+    // Infinitely many are too many as well.
+    if (_Path.IsNear() && steps <= ZAMPrintCairoLimits::kManyDashSteps && !_IsMuchWork) {
+        pen.Stroke(_Context.get(), 0.0);
+    } else {
+        StrokePieces(pen);
+    }
+}
+
+void ZAMPrintCairoCanvas::StrokePieces(ZAMPrintCairoPen& pen) {
+    ZAMPrintCairoStrokeCutter::Measure measure;
+    if (pen.IsDashed()) {
+        measure = [&pen](const ZAMMathVector2D& offset) { return pen.Measure(offset); };
+    }
+    const auto pieces = ZAMPrintCairoStrokeCutter::Cut(_Path.GetPath(), GetView(pen.GetReach()), measure);
+    double length = 0.0;
+    for (const auto& piece : pieces) {
+        length += pen.IsDashed() ? MeasurePath(piece.path, pen) : 0.0;
+    }
+    if (!(pen.CountDashSteps(length) <= ZAMPrintCairoLimits::kMostDashSteps)) {
+        pen.MakeSolid();
+    }
+    cairo_new_path(_Context.get());
+    for (const auto& piece : pieces) {
+        if (pen.IsDashed()) {
+            Emit(_Context.get(), piece.path);
+            pen.Stroke(_Context.get(), piece.walked);
+        } else {
+            AddSolid(piece.path, pen);
+        }
+    }
+    if (cairo_has_current_point(_Context.get()) != 0) {
+        pen.Stroke(_Context.get(), 0.0);
+    }
+}
+
+/// All pieces of a solid line are one mark, unless that is too much work and the parts' overlaps cannot be seen.
+void ZAMPrintCairoCanvas::AddSolid(const ZAMPrintPath& contour, const ZAMPrintCairoPen& pen) {
+    if (!(_IsMuchWork && pen.IsOpaque())) {
+        Emit(_Context.get(), contour);
+        return;
+    }
+    for (const ZAMPrintPath& part : ZAMPrintCairoContour::Divide(contour, pen.GetWidth())) {
+        Emit(_Context.get(), part);
+        pen.Stroke(_Context.get(), 0.0);
+    }
+}

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/mathematics/ZAMMathAffine2D.h"
+#include "framework/mathematics/ZAMMathBox2D.h"
+#include "framework/print/ZAMPrintPaint.h"
+#include "framework/print/ZAMPrintPath.h"
+#include "generators/cairo/ZAMPrintCairoDevicePath.h"
+#include "generators/cairo/ZAMPrintCairoHandles.h"
+#include "generators/cairo/ZAMPrintCairoPen.h"
+
+#include <cairo.h>
+
+/// Draws on a surface, whatever it is, and shows cairo nothing that it cannot bear.
+class ZAMPrintCairoCanvas {
+public:
+    enum class Kind {
+        Vector, ///< the surface keeps the marks
+        Picture ///< the surface turns each mark into pixels
+    };
+
+    /// A page of the given size in points on a surface with `scale` device units to the point.
+    ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, double width, double height, double scale);
+
+    /// For what is particular to one kind of surface. Between marks it has no path and the identity as its matrix.
+    [[nodiscard]] cairo_t* GetContext() const { return _Context.get(); }
+
+    /// Covers what the clips leave open.
+    void Paint(const ZAMPrintColour& colour);
+    void PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage);
+    /// Nothing when no clip is left.
+    void PopClip();
+    void PopAllClips();
+    void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                  const ZAMPrintPen* pen);
+
+private:
+    [[nodiscard]] ZAMMathAffine2D ToDevice(const ZAMMathAffine2D& toPage) const;
+    [[nodiscard]] ZAMMathBox2D GetView(double reach) const;
+    void ClipTo(const ZAMMathBox2D& area, const ZAMMathAffine2D& toDevice);
+    [[nodiscard]] bool IsMuchWork(double reach) const;
+    void EmitFill();
+    void Fill(const ZAMPrintFill& fill);
+    void Stroke(ZAMPrintCairoPen& pen);
+    void StrokePieces(ZAMPrintCairoPen& pen);
+    void AddSolid(const ZAMPrintPath& contour, const ZAMPrintCairoPen& pen);
+
+    ZAMPrintCairoContext _Context;
+    Kind _Kind;
+    ZAMMathBox2D _Page; ///< in device units
+    double _Scale;
+    int _Clips = 0;
+    ZAMPrintCairoDevicePath _Path; ///< of the mark that is being drawn
+    bool _IsMuchWork = false;      ///< to draw that mark
+};

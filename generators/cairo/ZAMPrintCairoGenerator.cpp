@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "generators/cairo/ZAMPrintCairoGenerator.h"
+
+#include "generators/cairo/ZAMPrintCairoCanvas.h"
+#include "generators/cairo/ZAMPrintCairoFailure.h"
+#include "generators/cairo/ZAMPrintCairoPdfOutput.h"
+#include "generators/cairo/ZAMPrintCairoPngOutput.h"
+#include "generators/cairo/ZAMPrintCairoStream.h"
+
+#include <cmath>
+#include <exception>
+#include <new>
+#include <string>
+
+namespace {
+
+std::unique_ptr<ZAMPrintCairoOutput> MakeOutput(ZAMPrintCairoGenerator::Format format, ZAMPrintCairoStream& stream) {
+    switch (format) {
+    case ZAMPrintCairoGenerator::Format::Pdf:
+        return std::make_unique<ZAMPrintCairoPdfOutput>(stream);
+    case ZAMPrintCairoGenerator::Format::Png:
+        break;
+    }
+    return std::make_unique<ZAMPrintCairoPngOutput>(stream);
+}
+
+} // namespace
+
+/// Keeps the order of the calls and the first failure, so that no output needs to.
+class ZAMPrintCairoGenerator::Implementation {
+public:
+    enum class State { New, InDocument, OnPage, Ended };
+
+    Implementation(Format format, std::ostream& out) : _Stream(out), _Output(MakeOutput(format, _Stream)) {}
+    Implementation(const Implementation&) = delete;
+    Implementation& operator=(const Implementation&) = delete;
+    ~Implementation() {
+        if (_State != State::Ended) {
+            // Cairo would complete the file.
+            _Stream.Abandon();
+        }
+    }
+
+    [[nodiscard]] const std::string& GetError() const { return _Error; }
+    [[nodiscard]] const ZAMPrintCairoOutput& GetOutput() const { return *_Output; }
+
+    /// A step from one state to another; out of order nothing happens.
+    template <class Step> int Run(State from, State to, const Step& step) noexcept {
+        if (_State != from || !_Error.empty() || !Guard(step)) {
+            return -1;
+        }
+        _State = to;
+        return 1;
+    }
+    /// A mark on the page, if there is one.
+    template <class Step> void Draw(const Step& step) noexcept {
+        if (_Canvas != nullptr && _Error.empty()) {
+            Guard([&] { step(*_Canvas); });
+        }
+    }
+
+    void BeginDocument(const ZAMPrintParameters& parameters) {
+        _Background = parameters.background;
+        _Output->BeginDocument(parameters);
+    }
+    void BeginPage(double width, double height) {
+        if (!(width > 0.0 && height > 0.0 && std::isfinite(width) && std::isfinite(height))) {
+            throw ZAMPrintCairoFailure("the size of a page must be positive");
+        }
+        _HasPage = true;
+        _Page = {0.0, 0.0, width, height};
+        _Canvas = _Output->BeginPage(width, height);
+        if (_Canvas != nullptr && _Background) {
+            _Canvas->Paint(*_Background);
+        }
+    }
+    void EndPage() {
+        if (_Canvas != nullptr) {
+            _Canvas->PopAllClips();
+            _Canvas = nullptr;
+            _Output->EndPage();
+        }
+    }
+    void EndDocument() {
+        if (!_HasPage) {
+            throw ZAMPrintCairoFailure("there is no page to print");
+        }
+        _Output->EndDocument();
+        if (!_Stream.Flush()) {
+            throw ZAMPrintCairoFailure("cannot write the output");
+        }
+    }
+    void AddLink(const ZAMMathBox2D& area, std::string_view address) {
+        const ZAMMathBox2D visible = area.Intersection(_Page);
+        if (visible.Width() > 0.0 && visible.Height() > 0.0) {
+            _Output->AddLink(visible, address);
+        }
+    }
+
+private:
+    template <class Step> bool Guard(const Step& step) noexcept {
+        try {
+            step();
+            return true;
+        } catch (const std::bad_alloc&) {
+            SetError("out of memory");
+        } catch (const std::exception& failure) {
+            SetError(failure.what());
+        }
+        return false;
+    }
+    void SetError(const char* text) noexcept {
+        try {
+            _Error = text;
+        } catch (...) {
+            // Short enough for the string's own buffer.
+            _Error.assign("out of memory");
+        }
+        _Canvas = nullptr;
+    }
+
+    ZAMPrintCairoStream _Stream;
+    std::unique_ptr<ZAMPrintCairoOutput> _Output;
+    State _State = State::New;
+    std::string _Error;
+    std::optional<ZAMPrintColour> _Background;
+    ZAMMathBox2D _Page;
+    ZAMPrintCairoCanvas* _Canvas = nullptr; ///< of the current page, if it is drawn
+    bool _HasPage = false;
+};
+
+ZAMPrintCairoGenerator::ZAMPrintCairoGenerator(Format format, std::ostream& out)
+    : _Implementation(std::make_unique<Implementation>(format, out)) {}
+
+ZAMPrintCairoGenerator::~ZAMPrintCairoGenerator() = default;
+
+double ZAMPrintCairoGenerator::GetLargestPageSide() const {
+    return _Implementation->GetOutput().GetLargestPageSide();
+}
+
+int ZAMPrintCairoGenerator::BeginDocument(const ZAMPrintParameters& parameters) {
+    return _Implementation->Run(Implementation::State::New, Implementation::State::InDocument,
+                                [&] { _Implementation->BeginDocument(parameters); });
+}
+
+int ZAMPrintCairoGenerator::BeginPage(double width, double height) {
+    return _Implementation->Run(Implementation::State::InDocument, Implementation::State::OnPage,
+                                [&] { _Implementation->BeginPage(width, height); });
+}
+
+int ZAMPrintCairoGenerator::EndPage() {
+    return _Implementation->Run(Implementation::State::OnPage, Implementation::State::InDocument,
+                                [&] { _Implementation->EndPage(); });
+}
+
+int ZAMPrintCairoGenerator::EndDocument() {
+    return _Implementation->Run(Implementation::State::InDocument, Implementation::State::Ended,
+                                [&] { _Implementation->EndDocument(); });
+}
+
+void ZAMPrintCairoGenerator::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) {
+    _Implementation->Draw([&](ZAMPrintCairoCanvas& canvas) { canvas.PushClip(area, toPage); });
+}
+
+void ZAMPrintCairoGenerator::PopClip() {
+    _Implementation->Draw([](ZAMPrintCairoCanvas& canvas) { canvas.PopClip(); });
+}
+
+void ZAMPrintCairoGenerator::AddLink(const ZAMMathBox2D& area, std::string_view address) {
+    _Implementation->Draw([&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddLink(area, address); });
+}
+
+void ZAMPrintCairoGenerator::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                                      const ZAMPrintPen* pen) {
+    _Implementation->Draw([&](ZAMPrintCairoCanvas& canvas) { canvas.DrawPath(path, toPage, fill, pen); });
+}
+
+std::string ZAMPrintCairoGenerator::GetError() const {
+    return _Implementation->GetError();
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/base/ZAMExport.h"
+#include "framework/print/ZAMPrintGenerator.h"
+
+#include <memory>
+#include <ostream>
+
+/// Draws a model with cairo: PDF (ISO 32000) or PNG (ISO 15948), written to a stream that outlives the generator.
+///
+/// One generator makes one document. A PDF has a page for each page of the model, of its own size, up to 14,400 points
+/// a side; one whose size differs from that of the page before it has its sides rounded up to whole points. A PNG is
+/// one picture: the first page; later pages draw nothing. Its sides are the page's size at the resolution of the
+/// parameters, at least 1 and at most 32,767 pixels, 2^27 in all; more is an error of BeginPage. Without a background
+/// it is transparent.
+///
+/// No document can put the output into an error state: non-finite marks are left out, geometry is cut far outside the
+/// page, and singular maps paint nothing.
+class ZAM_EXPORT ZAMPrintCairoGenerator : public ZAMPrintGenerator {
+public:
+    enum class Format { Pdf, Png };
+
+    ZAMPrintCairoGenerator(Format format, std::ostream& out);
+    ~ZAMPrintCairoGenerator() override;
+
+    [[nodiscard]] double GetLargestPageSide() const override;
+    int BeginDocument(const ZAMPrintParameters& parameters) override;
+    int BeginPage(double width, double height) override;
+    int EndPage() override;
+    int EndDocument() override;
+    void PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) override;
+    void PopClip() override;
+    void AddLink(const ZAMMathBox2D& area, std::string_view address) override;
+    void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                  const ZAMPrintPen* pen) override;
+    [[nodiscard]] std::string GetError() const override;
+
+private:
+    class Implementation;
+    std::unique_ptr<Implementation> _Implementation;
+};

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+
+/// What the guard in front of cairo lets through. Device units are points in a PDF and pixels in a picture.
+namespace ZAMPrintCairoLimits {
+
+/// Coordinates are cut here, in device units: cairo holds them in 24.8 fixed point, which wraps silently at 8,388,607,
+/// and strokes that reach beyond 4,000,000 can take minutes.
+inline constexpr double kFarthestPoint = 1e6;
+
+/// A pen's width in device units. With the miter limit its marks end 2,000,000 units from the path.
+inline constexpr double kWidestPen = 1e6;
+
+/// The narrow side of a pen that its map flattens, relative to the wide one. Cairo draws with the inverse of the map.
+inline constexpr double kFlattestPen = 1e-7;
+
+/// What is cut away stays at least so many device units off the page, pen included.
+inline constexpr double kPageMargin = 100.0;
+
+/// Entries of a dash list; longer ones make a solid line.
+inline constexpr std::size_t kMostDashes = 1000;
+
+/// Longest dash in device units, more than any path that is left after cutting.
+inline constexpr double kLongestDash = 1e9;
+
+/// A dash list that repeats within fewer device units than cairo's coordinates resolve makes a solid line.
+inline constexpr double kShortestPeriod = 1.0 / 256.0;
+
+/// Dashes and gaps of one mark. More make a solid line: cairo walks them one by one.
+inline constexpr double kMostDashSteps = 1e6;
+
+/// From so many on, a dashed path is cut to what the page shows before its dashes are counted again.
+inline constexpr double kManyDashSteps = 1e4;
+
+/// Rows that the edges of one mark in a picture pass, summed up. Cairo visits each of them 15 times to smooth the
+/// edges; from here on, where several seconds are at stake and edges cover the picture several times, it need not.
+inline constexpr double kMostEdgeRows = 5e6;
+
+/// Sides of a PDF page in points (ISO 32000-1, annex C). Below the smallest, readers see an empty box.
+inline constexpr double kLargestPdfSide = 14400.0;
+inline constexpr double kSmallestPdfSide = 1e-3;
+
+/// Sides and area of a picture in pixels. The first is the limit of cairo's image surfaces.
+inline constexpr double kLargestPictureSide = 32767.0;
+inline constexpr double kMostPixels = 134217728.0;
+
+} // namespace ZAMPrintCairoLimits

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "generators/cairo/ZAMPrintCairoPdfOutput.h"
+
+#include "generators/cairo/ZAMPrintCairoFailure.h"
+#include "generators/cairo/ZAMPrintCairoLimits.h"
+#include "generators/cairo/ZAMPrintCairoLink.h"
+#include "generators/cairo/ZAMPrintCairoMetadata.h"
+
+#include <algorithm>
+#include <cairo-pdf.h>
+#include <cmath>
+
+namespace {
+
+cairo_status_t WriteBytes(void* stream, const unsigned char* bytes, unsigned int count) {
+    return static_cast<ZAMPrintCairoStream*>(stream)->Write(bytes, count) ? CAIRO_STATUS_SUCCESS
+                                                                          : CAIRO_STATUS_WRITE_ERROR;
+}
+
+/// The render's pages may exceed the limit by a rounding error; others are none of PDF's.
+double FitSide(double side) {
+    return std::clamp(side, ZAMPrintCairoLimits::kSmallestPdfSide, ZAMPrintCairoLimits::kLargestPdfSide);
+}
+
+/// To whole points, unless what lies beyond them is too little to be seen.
+double RoundUp(double side) {
+    constexpr double kNothing = 1.0 / 256.0;
+    return side - std::floor(side) < kNothing && side >= 1.0 ? side : std::ceil(side);
+}
+
+} // namespace
+
+double ZAMPrintCairoPdfOutput::GetLargestPageSide() const {
+    return ZAMPrintCairoLimits::kLargestPdfSide;
+}
+
+void ZAMPrintCairoPdfOutput::BeginDocument(const ZAMPrintParameters& parameters) {
+    _Metadata = parameters.metadata;
+}
+
+ZAMPrintCairoCanvas* ZAMPrintCairoPdfOutput::BeginPage(double width, double height) {
+    constexpr double kRounding = 1.0 + 1e-9;
+    if (std::max(width, height) > ZAMPrintCairoLimits::kLargestPdfSide * kRounding) {
+        throw ZAMPrintCairoFailure("a page of " + FormatLength(width) + " x " + FormatLength(height) +
+                                   " points is too large: PDF allows 14,400 points a side");
+    }
+    SetPageSize(FitSide(width), FitSide(height));
+    _Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Vector, width, height, 1.0);
+    MarkWholePage();
+    return &*_Canvas;
+}
+
+/// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more rectangles
+/// it consists of: 100,000 marks spend 5 s of 6 on it. A first mark as large as the page makes the region one
+/// rectangle, to which nothing needs joining. The same rectangle twice is no interior under the even-odd rule, so nothing
+/// is painted.
+void ZAMPrintCairoPdfOutput::MarkWholePage() {
+    cairo_t* context = _Canvas->GetContext();
+    cairo_set_fill_rule(context, CAIRO_FILL_RULE_EVEN_ODD);
+    cairo_rectangle(context, 0.0, 0.0, _Width, _Height);
+    cairo_rectangle(context, 0.0, 0.0, _Width, _Height);
+    cairo_fill(context);
+}
+
+void ZAMPrintCairoPdfOutput::AddLink(const ZAMMathBox2D& area, std::string_view address) {
+    if (auto attributes = ZAMPrintCairoLink::MakeAttributes(area, address)) {
+        _Links.push_back(std::move(*attributes));
+    }
+}
+
+void ZAMPrintCairoPdfOutput::EndPage() {
+    cairo_t* context = _Canvas->GetContext();
+    WriteLinks();
+    cairo_show_page(context);
+    Check(cairo_status(context));
+    _Canvas.reset();
+    Check(cairo_surface_status(_Surface.get()));
+}
+
+void ZAMPrintCairoPdfOutput::EndDocument() {
+    // Most of what can fail fails here, on the surface.
+    cairo_surface_finish(_Surface.get());
+    Check(cairo_surface_status(_Surface.get()));
+}
+
+/// A surface takes any size when it is made; when its size is changed, cairo 1.16 drops what lies beyond the last whole
+/// point. So only a page that differs from the one before changes it, and then has whole points.
+void ZAMPrintCairoPdfOutput::SetPageSize(double width, double height) {
+    if (_Surface == nullptr) {
+        _Surface.reset(cairo_pdf_surface_create_for_stream(WriteBytes, &GetStream(), width, height));
+        SetMetadata(_Metadata);
+    } else if (width != _Width || height != _Height) {
+        cairo_pdf_surface_set_size(_Surface.get(), RoundUp(width), RoundUp(height));
+    }
+    Check(cairo_surface_status(_Surface.get()));
+    _Width = width;
+    _Height = height;
+}
+
+void ZAMPrintCairoPdfOutput::SetMetadata(const ZAMPrintMetadata& metadata) {
+    const auto set = [this](cairo_pdf_metadata_t key, const std::string& text) {
+        if (!text.empty()) {
+            cairo_pdf_surface_set_metadata(_Surface.get(), key, text.c_str());
+        }
+    };
+    set(CAIRO_PDF_METADATA_TITLE, ZAMPrintCairoMetadata::KeepCharacters(metadata.title));
+    set(CAIRO_PDF_METADATA_AUTHOR, ZAMPrintCairoMetadata::KeepCharacters(metadata.author));
+    set(CAIRO_PDF_METADATA_CREATOR, ZAMPrintCairoMetadata::kCreator);
+    if (metadata.creationTime) {
+        if (const auto calendar = ZAMPrintCairoMetadata::ToCalendar(*metadata.creationTime)) {
+            set(CAIRO_PDF_METADATA_CREATE_DATE, ZAMPrintCairoMetadata::FormatDate(*calendar));
+            set(CAIRO_PDF_METADATA_MOD_DATE, ZAMPrintCairoMetadata::FormatDate(*calendar));
+        }
+    }
+}
+
+/// After all marks, so that no clip touches the links; and because cairo forgets what it was told, tags included, when
+/// a mark covers the page, after which the end of a tag would be an error.
+void ZAMPrintCairoPdfOutput::WriteLinks() {
+    if (_Links.empty()) {
+        return;
+    }
+    cairo_t* context = _Canvas->GetContext();
+    // Without a tag of the document's structure around them, links make cairo 1.16 refer to an object that it does not
+    // write.
+    cairo_tag_begin(context, "Document", nullptr);
+    // A page without a mark inside the tag loses its links; a line of no length leaves none, but counts.
+    cairo_set_line_cap(context, CAIRO_LINE_CAP_BUTT);
+    cairo_set_dash(context, nullptr, 0, 0.0);
+    cairo_move_to(context, 0.0, 0.0);
+    cairo_line_to(context, 0.0, 0.0);
+    cairo_stroke(context);
+    for (const std::string& attributes : _Links) {
+        cairo_tag_begin(context, CAIRO_TAG_LINK, attributes.c_str());
+        cairo_tag_end(context, CAIRO_TAG_LINK);
+    }
+    cairo_tag_end(context, "Document");
+    _Links.clear();
+}

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "generators/cairo/ZAMPrintCairoPen.h"
+
+#include "generators/cairo/ZAMPrintCairoColour.h"
+#include "generators/cairo/ZAMPrintCairoLimits.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace {
+
+cairo_line_cap_t ToCap(ZAMPrintLineAttribute cap) {
+    switch (cap) {
+    case ZAMPrintLineAttribute::CapSquare:
+        return CAIRO_LINE_CAP_SQUARE;
+    case ZAMPrintLineAttribute::CapRound:
+        return CAIRO_LINE_CAP_ROUND;
+    default:
+        return CAIRO_LINE_CAP_BUTT;
+    }
+}
+
+cairo_line_join_t ToJoin(ZAMPrintLineAttribute join) {
+    switch (join) {
+    case ZAMPrintLineAttribute::JoinRound:
+        return CAIRO_LINE_JOIN_ROUND;
+    case ZAMPrintLineAttribute::JoinBevel:
+        return CAIRO_LINE_JOIN_BEVEL;
+    default:
+        return CAIRO_LINE_JOIN_MITER;
+    }
+}
+
+/// The longest and the shortest image of a vector of length 1.
+struct Stretch {
+    double longest;
+    double shortest;
+};
+
+Stretch MeasureStretch(const ZAMMath2x2Matrix& m) {
+    const double turning = std::hypot(m.a + m.d, m.c - m.b);
+    const double mirroring = std::hypot(m.a - m.d, m.c + m.b);
+    return {(turning + mirroring) / 2.0, std::abs(turning - mirroring) / 2.0};
+}
+
+ZAMMath2x2Matrix Divide(const ZAMMath2x2Matrix& m, double divisor) {
+    return {m.a / divisor, m.b / divisor, m.c / divisor, m.d / divisor};
+}
+
+ZAMMath2x2Matrix Invert(const ZAMMath2x2Matrix& m) {
+    return Divide({m.d, -m.b, -m.c, m.a}, m.Determinant());
+}
+
+} // namespace
+
+ZAMPrintCairoPen::ZAMPrintCairoPen(const ZAMPrintPen& pen, const ZAMMath2x2Matrix& toDevice)
+    : _Colour(pen.colour), _Cap(ToCap(pen.cap)), _Join(ToJoin(pen.join)) {
+    const Stretch stretch = MeasureStretch(toDevice);
+    const double flatness = stretch.shortest / stretch.longest;
+    const double width = pen.width * stretch.longest;
+    // Written so that NaN fails as well.
+    if (!(flatness >= ZAMPrintCairoLimits::kFlattestPen && width > 0.0 && std::isfinite(width))) {
+        return;
+    }
+    _Width = std::min(width, ZAMPrintCairoLimits::kWidestPen);
+    // A round pen stays round when it is turned or mirrored: without a matrix the output is smaller.
+    if (flatness < 1.0 - 1e-9) {
+        _ToDevice = Divide(toDevice, stretch.longest);
+        _FromDevice = Invert(_ToDevice);
+    }
+    ReadDashes(pen.dashes, stretch.longest);
+}
+
+double ZAMPrintCairoPen::GetReach() const {
+    return _Width / 2.0 * ZAMPrintPen::kMiterLimit;
+}
+
+double ZAMPrintCairoPen::CountDashSteps(double length) const {
+    return IsDashed() ? length / _Period * static_cast<double>(_Dashes.size()) : 0.0;
+}
+
+double ZAMPrintCairoPen::Measure(const ZAMMathVector2D& offset) const {
+    return std::hypot(_FromDevice.a * offset.x + _FromDevice.b * offset.y,
+                      _FromDevice.c * offset.x + _FromDevice.d * offset.y);
+}
+
+void ZAMPrintCairoPen::Stroke(cairo_t* context, double walked) const {
+    cairo_matrix_t matrix;
+    cairo_matrix_init(&matrix, _ToDevice.a, _ToDevice.c, _ToDevice.b, _ToDevice.d, 0.0, 0.0);
+    cairo_set_matrix(context, &matrix);
+    cairo_set_line_width(context, _Width);
+    cairo_set_line_cap(context, _Cap);
+    cairo_set_line_join(context, _Join);
+    cairo_set_miter_limit(context, ZAMPrintPen::kMiterLimit);
+    const double phase = IsDashed() && std::isfinite(walked) ? std::fmod(walked, _Period) : 0.0;
+    cairo_set_dash(context, _Dashes.data(), static_cast<int>(_Dashes.size()), phase);
+    ZAMPrintCairoColour::SetSource(context, _Colour);
+    cairo_stroke(context);
+    cairo_identity_matrix(context);
+}
+
+void ZAMPrintCairoPen::ReadDashes(std::span<const float> dashes, double scale) {
+    const bool isSound = dashes.size() <= ZAMPrintCairoLimits::kMostDashes &&
+                         std::all_of(dashes.begin(), dashes.end(), [](float dash) { return dash >= 0.0F; });
+    if (!isSound) {
+        return;
+    }
+    for (const float dash : dashes) {
+        _Dashes.push_back(std::min(static_cast<double>(dash) * scale, ZAMPrintCairoLimits::kLongestDash));
+    }
+    // An odd list swaps dashes and gaps each time round.
+    _Period = std::accumulate(_Dashes.begin(), _Dashes.end(), 0.0) * (dashes.size() % 2 == 0 ? 1.0 : 2.0);
+    if (_Period < ZAMPrintCairoLimits::kShortestPeriod) {
+        MakeSolid();
+    }
+}

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "generators/cairo/ZAMPrintCairoPngWriter.h"
+
+#include "generators/cairo/ZAMPrintCairoFailure.h"
+#include "generators/cairo/ZAMPrintCairoMetadata.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <csetjmp>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <png.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// Level 4 takes twice the time. Drawings are even areas: filters cost time and make them larger.
+constexpr int kCompressionLevel = 3;
+
+/// A picture in cairo's memory: native-endian words, alpha in the highest byte, colours multiplied with it.
+struct Pixels {
+    const unsigned char* bytes;
+    int width;
+    int height;
+    int stride;
+
+    [[nodiscard]] const unsigned char* Row(int y) const { return bytes + static_cast<std::ptrdiff_t>(y) * stride; }
+    [[nodiscard]] std::uint32_t At(const unsigned char* row, int x) const {
+        std::uint32_t pixel = 0;
+        std::memcpy(&pixel, row + static_cast<std::ptrdiff_t>(x) * 4, sizeof pixel);
+        return pixel;
+    }
+};
+
+bool IsOpaque(const Pixels& pixels) {
+    for (int y = 0; y < pixels.height; ++y) {
+        std::uint32_t common = 0xFF000000U;
+        for (int x = 0; x < pixels.width; ++x) {
+            common &= pixels.At(pixels.Row(y), x);
+        }
+        if (common != 0xFF000000U) {
+            return false;
+        }
+    }
+    return true;
+}
+
+unsigned char Unmultiply(std::uint32_t component, std::uint32_t alpha) {
+    return static_cast<unsigned char>(std::min(255U, (component * 255U + alpha / 2U) / alpha));
+}
+
+void ConvertToRgb(const Pixels& pixels, int y, unsigned char* out) {
+    for (int x = 0; x < pixels.width; ++x) {
+        const std::uint32_t pixel = pixels.At(pixels.Row(y), x);
+        *out++ = static_cast<unsigned char>(pixel >> 16U);
+        *out++ = static_cast<unsigned char>(pixel >> 8U);
+        *out++ = static_cast<unsigned char>(pixel);
+    }
+}
+
+void ConvertToRgba(const Pixels& pixels, int y, unsigned char* out) {
+    for (int x = 0; x < pixels.width; ++x) {
+        const std::uint32_t pixel = pixels.At(pixels.Row(y), x);
+        const std::uint32_t alpha = pixel >> 24U;
+        const bool isPlain = alpha == 0 || alpha == 255;
+        for (const unsigned int shift : {16U, 8U, 0U}) {
+            const std::uint32_t component = pixel >> shift & 0xFFU;
+            *out++ = isPlain ? static_cast<unsigned char>(component) : Unmultiply(component, alpha);
+        }
+        *out++ = static_cast<unsigned char>(alpha);
+    }
+}
+
+/// All that the writing needs, made before libpng is called: what stands below its jump must own nothing.
+struct Job {
+    png_structp png = nullptr;
+    png_infop info = nullptr;
+    Pixels pixels{};
+    bool isOpaque = false;
+    png_uint_32 pixelsPerMetre = 0;
+    std::string title;
+    std::string author;
+    std::optional<std::tm> time;
+    std::vector<unsigned char> row;
+
+    Job() = default;
+    Job(const Job&) = delete;
+    Job& operator=(const Job&) = delete;
+    ~Job() { png_destroy_write_struct(&png, &info); }
+};
+
+void WriteBytes(png_structp png, png_bytep bytes, std::size_t count) {
+    if (!static_cast<ZAMPrintCairoStream*>(png_get_io_ptr(png))->Write(bytes, count)) {
+        png_error(png, "write");
+    }
+}
+
+void FlushBytes(png_structp /*png*/) {}
+
+[[noreturn]] void Fail(png_structp png, png_const_charp /*message*/) {
+    png_longjmp(png, 1);
+}
+
+void Ignore(png_structp /*png*/, png_const_charp /*message*/) {}
+
+void WriteTexts(const Job& job) {
+    // PNG wants keywords in Latin-1 and short, texts in UTF-8 as iTXt.
+    std::array<char, 9> title = {"Title"};
+    std::array<char, 9> author = {"Author"};
+    std::array<char, 9> software = {"Software"};
+    std::array<png_text, 3> texts{};
+    int count = 0;
+    const auto add = [&](char* key, const char* text) {
+        png_text& entry = texts[static_cast<std::size_t>(count++)];
+        entry.compression = PNG_ITXT_COMPRESSION_NONE;
+        entry.key = key;
+        entry.text = const_cast<char*>(text); // libpng reads it only
+    };
+    if (!job.title.empty()) {
+        add(title.data(), job.title.c_str());
+    }
+    if (!job.author.empty()) {
+        add(author.data(), job.author.c_str());
+    }
+    add(software.data(), ZAMPrintCairoMetadata::kCreator);
+    png_set_text(job.png, job.info, texts.data(), count);
+}
+
+void WriteTime(const Job& job) {
+    if (job.time) {
+        png_time time{};
+        png_convert_from_struct_tm(&time, &*job.time);
+        png_set_tIME(job.png, job.info, &time);
+    }
+}
+
+void WritePicture(Job& job) {
+    png_set_compression_level(job.png, kCompressionLevel);
+    png_set_filter(job.png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
+    png_set_IHDR(job.png, job.info, static_cast<png_uint_32>(job.pixels.width),
+                 static_cast<png_uint_32>(job.pixels.height), 8,
+                 job.isOpaque ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGBA, PNG_INTERLACE_NONE,
+                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+    png_set_pHYs(job.png, job.info, job.pixelsPerMetre, job.pixelsPerMetre, PNG_RESOLUTION_METER);
+    WriteTexts(job);
+    WriteTime(job);
+    png_write_info(job.png, job.info);
+    for (int y = 0; y < job.pixels.height; ++y) {
+        (job.isOpaque ? ConvertToRgb : ConvertToRgba)(job.pixels, y, job.row.data());
+        png_write_row(job.png, job.row.data());
+    }
+    png_write_end(job.png, job.info);
+}
+
+/// libpng reports failures by a jump. It ends here, above frames that own nothing.
+bool TryWritePicture(Job& job) {
+    if (setjmp(png_jmpbuf(job.png)) != 0) {
+        return false;
+    }
+    WritePicture(job);
+    return true;
+}
+
+} // namespace
+
+void ZAMPrintCairoPngWriter::Write(cairo_surface_t* picture, double resolution, const ZAMPrintMetadata& metadata,
+                                   ZAMPrintCairoStream& stream) {
+    cairo_surface_flush(picture);
+    Job job;
+    job.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, Fail, Ignore);
+    job.info = job.png == nullptr ? nullptr : png_create_info_struct(job.png);
+    if (job.info == nullptr) {
+        throw std::bad_alloc();
+    }
+    png_set_write_fn(job.png, &stream, WriteBytes, FlushBytes);
+    job.pixels = {cairo_image_surface_get_data(picture), cairo_image_surface_get_width(picture),
+                  cairo_image_surface_get_height(picture), cairo_image_surface_get_stride(picture)};
+    job.isOpaque = IsOpaque(job.pixels);
+    job.pixelsPerMetre = static_cast<png_uint_32>(std::clamp(std::round(resolution / 0.0254), 1.0, 2147483647.0));
+    job.title = ZAMPrintCairoMetadata::KeepCharacters(metadata.title);
+    job.author = ZAMPrintCairoMetadata::KeepCharacters(metadata.author);
+    if (metadata.creationTime) {
+        job.time = ZAMPrintCairoMetadata::ToCalendar(*metadata.creationTime);
+    }
+    job.row.resize(static_cast<std::size_t>(job.pixels.width) * 4);
+    if (!TryWritePicture(job)) {
+        throw ZAMPrintCairoFailure(stream.IsGood() ? "cannot encode the picture" : "cannot write the output");
+    }
+}
