@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "tests/tools/ToolTest.h"
+
+#include <algorithm>
+
+class CommandLineTest : public ToolTest {};
+
+TEST_F(CommandLineTest, WrongUsageIsOneLineAndNoOutput) {
+    const struct {
+        std::vector<std::string> arguments;
+        std::string complaint;
+    } rows[] = {
+        {{"--tiles"}, "--tiles"},
+        {{"-x"}, "-x"},
+        {{"a.svg", "b.svg"}, "b.svg"},
+        {{"a.svg", "-o"}, "--output"},
+        {{"a.svg", "-o", ""}, "--output"},
+        {{"a.svg", "-o", "a.svg"}, "replace the input"},
+        {{"a.svg", "-o", "link.svg"}, "replace the input"},
+        {{"a.svg", "-f", "tiff"}, "pdf, png, json"},
+        {{"a.svg", "--page-size", "A4"}, "--page-size 'A4'"},
+        {{"a.svg", "-w", "0"}, "-w"},
+        {{"a.svg", "-w=-5"}, "-w"},
+        {{"a.svg", "--width=-5"}, "--width '-5'"},
+        {{"a.svg", "-w", "nan"}, "--width 'nan'"},
+        {{"a.svg", "-h", "inf"}, "--height 'inf'"},
+        {{"a.svg", "-h", "1e9"}, "--height '1e9'"},
+        {{"a.svg", "-h", "12px"}, "--height '12px'"},
+        {{"a.svg", "-d", "0.5"}, "--dpi '0.5'"},
+        {{"a.svg", "-d", "4801"}, "--dpi '4801'"},
+        {{"a.svg", "-b", "reddish"}, "--background 'reddish'"},
+        {{"a.svg", "-b", "#12345"}, "--background '#12345'"},
+        {{"a.svg", "-b", "#12345g"}, "--background '#12345g'"},
+    };
+    Write("a.svg", MakeDrawing("width=\"10\" height=\"10\""));
+    std::filesystem::create_symlink("a.svg", "link.svg");
+    for (const auto& row : rows) {
+        const RunResult run = Run(row.arguments);
+        SCOPED_TRACE(testing::PrintToString(row.arguments));
+        EXPECT_EQ(run.status, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_TRUE(run.err.starts_with("zamprint: ")) << run.err;
+        EXPECT_NE(run.err.find(row.complaint), std::string::npos) << run.err;
+        EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+    }
+    EXPECT_EQ(List(), (std::vector<std::string>{"a.svg", "link.svg"}));
+    EXPECT_EQ(Read("a.svg"), MakeDrawing("width=\"10\" height=\"10\""));
+}
+
+TEST_F(CommandLineTest, InformationGoesToStandardOutput) {
+    const RunResult help = Run({"--help"});
+    EXPECT_EQ(help.status, 0) << help.err;
+    for (const char* option : {"-o,--output", "-f,--format", "--page-size", "-w,--width", "-h,--height", "-d,--dpi",
+                               "-b,--background", "--version", "--help"}) {
+        EXPECT_NE(help.out.find(option), std::string::npos) << option << "\n" << help.out;
+    }
+    const RunResult version = Run({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_TRUE(version.out.starts_with("zamprint ") && version.out.ends_with("\n")) << version.out;
+    EXPECT_EQ(RunProgram(ZAM_ZAMPRINT_PATH, {"--help"}, {}, "/dev/full").status, 1);
+}
+
+TEST_F(CommandLineTest, TheFormatComesFromTheOptionElseTheEnding) {
+    const struct {
+        std::vector<std::string> options;
+        std::string file;
+        std::string start;
+    } rows[] = {
+        {{}, "a.pdf", "%PDF-"},
+        {{}, "a.PNG", "\x89PNG"},
+        {{}, "a.json", "{\"images\""},
+        {{}, "a.txt", "%PDF-"},
+        {{}, "folder.png/a", "%PDF-"},
+        {{"-f", "png"}, "b.pdf", "\x89PNG"},
+        {{"-f", "pdf", "--format=JSON"}, "b.png", "{\"images\""},
+    };
+    std::filesystem::create_directory("folder.png");
+    for (const auto& row : rows) {
+        std::vector<std::string> arguments = row.options;
+        arguments.insert(arguments.end(), {"-o", row.file, "--page-size", "document"});
+        const RunResult run = Run(arguments, MakeDrawing("width=\"10\" height=\"10\""));
+        EXPECT_EQ(run.status, 0) << run.err;
+        EXPECT_EQ(run.out + run.err, "");
+        EXPECT_TRUE(Read(row.file).starts_with(row.start)) << row.file;
+    }
+}

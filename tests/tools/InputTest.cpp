@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "tests/tools/ToolTest.h"
+
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
+class InputTest : public ToolTest {};
+
+TEST_F(InputTest, WhatCannotBeReadIsSaidAndHarmsNoOutput) {
+    const struct {
+        std::string file;
+        std::string message;
+    } rows[] = {
+        {"open.svg", "zamprint: open.svg:3:1: "},
+        {"crossed.svg", "zamprint: crossed.svg:2:11: "},
+        {"empty.svg", "zamprint: empty.svg:1:1: "},
+        {"binary.svg", "zamprint: binary.svg:1:"},
+        {"deep.svg", "zamprint: deep.svg:1:"},
+        {"page.html", "zamprint: page.html: holds no svg element\n"},
+        {"missing.svg", "zamprint: missing.svg: No such file or directory\n"},
+        {"folder", "zamprint: folder: Is a directory\n"},
+        {"-", "zamprint: standard input:1:6: "},
+        {"line\nbreak.svg", "zamprint: line?break.svg: No such file or directory\n"},
+    };
+    Write("open.svg", "<svg>\n<g>\n");
+    Write("crossed.svg", "<svg>\n  <g><a></g></svg>\n");
+    Write("empty.svg", "");
+    Write("binary.svg", std::string("\x89PNG\r\n\x1a\n\0\0", 10));
+    std::string deep = "<svg>";
+    for (int i = 0; i < 1000; ++i) {
+        deep += "<g>";
+    }
+    Write("deep.svg", deep);
+    Write("page.html", "<html><body><svg/></body></html>");
+    Write("kept.pdf", "as it was");
+    std::filesystem::create_directory("folder");
+    for (const auto& row : rows) {
+        const auto before = List();
+        const RunResult kept = Run({row.file, "-o", "kept.pdf"}, "<svg>&");
+        EXPECT_EQ(kept.status, 1);
+        EXPECT_TRUE(kept.err.starts_with(row.message)) << kept.err;
+        EXPECT_TRUE(kept.err.ends_with("\n") && kept.err.size() > row.message.size() - 1) << kept.err;
+        EXPECT_EQ(Run({row.file, "-o", "new.png"}, "<svg>&").status, 1);
+        EXPECT_EQ(Run({row.file}, "<svg>&").out, "");
+        EXPECT_EQ(List(), before);
+        EXPECT_EQ(Read("kept.pdf"), "as it was");
+    }
+}
+
+TEST_F(InputTest, AFileWithoutPermissionIsSaid) {
+    Write("secret.svg", "<svg/>");
+    std::filesystem::permissions("secret.svg", std::filesystem::perms::none);
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "nothing is secret to root";
+    }
+    EXPECT_EQ(Run({"secret.svg"}).err, "zamprint: secret.svg: Permission denied\n");
+}
+
+TEST_F(InputTest, StandardInputAndAPipeGiveWhatTheFileGives) {
+    const std::string drawing = MakeDrawing("width=\"30\" height=\"20\"");
+    Write("a.svg", drawing);
+    const std::string expected = Run({"-f", "json", "a.svg"}).out;
+    EXPECT_EQ(nlohmann::json::parse(expected)["images"].size(), 1U);
+    EXPECT_EQ(Run({"-f", "json"}, drawing).out, expected);
+    EXPECT_EQ(Run({"-f", "json", "-", "-o", "-"}, drawing).out, expected);
+    const RunResult pipe = RunProgram(
+        "sh", {"-c", std::string("cat a.svg | " ZAM_ZAMPRINT_PATH " -f json -o pipe.json /dev/fd/0")}, {}, "unused");
+    EXPECT_EQ(pipe.status, 0) << pipe.err;
+    EXPECT_EQ(Read("pipe.json"), expected);
+    EXPECT_EQ(RunProgram("sh", {"-c", ZAM_ZAMPRINT_PATH " <&-"}, {}, "unused").err,
+              "zamprint: standard input: Bad file descriptor\n");
+}
+
+TEST_F(InputTest, TheExamplesPrintInEveryFormat) {
+    const auto examples = Examples();
+    ASSERT_GE(examples.size(), 5U);
+    for (const std::string& file : examples) {
+        SCOPED_TRACE(file);
+        const RunResult pdf = Run({file});
+        EXPECT_EQ(pdf.status, 0) << pdf.err;
+        EXPECT_NE(CheckPdf(pdf.out).find("Pages:           1\n"), std::string::npos);
+        const Picture picture = ReadPng(Run({"-f", "png", "-w", "300", file}).out);
+        EXPECT_EQ(picture.width, 300U);
+        const auto model = nlohmann::json::parse(Run({"-f", "json", file}).out);
+        EXPECT_GT(model["images"][0]["children"].size(), 3U);
+    }
+}

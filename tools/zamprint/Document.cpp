@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "tools/zamprint/Document.h"
+
+#include "framework/base/ZAMTextCompare.h"
+#include "framework/lightxml/ZAMLightXmlInputStreamBuffer.h"
+#include "framework/lightxml/ZAMLightXmlParser.h"
+#include "tools/zamprint/Failure.h"
+#include "tools/zamprint/InputFile.h"
+#include "tools/zamprint/Options.h"
+
+#include <sstream>
+
+namespace {
+
+std::vector<ZAMLightXmlElement> FindChildren(const ZAMLightXmlElement& parent, std::string_view name) {
+    std::vector<ZAMLightXmlElement> found;
+    ZAMLightXmlPosition position = parent.GetFirstChildPosition();
+    while (position != 0) {
+        ZAMLightXmlElement child = parent.GetNextChild(position);
+        if (ZAMTextMatches(child.GetName(), name)) {
+            found.push_back(std::move(child));
+        }
+    }
+    return found;
+}
+
+std::string CollapseWhiteSpace(const std::string& text) {
+    std::istringstream words(text);
+    words.imbue(std::locale::classic());
+    std::string collapsed;
+    for (std::string word; words >> word;) {
+        collapsed += collapsed.empty() ? "" : " ";
+        collapsed += word;
+    }
+    return collapsed;
+}
+
+} // namespace
+
+Document::Document(const std::string& file)
+    : _Name(GetInputName(file)), _Path(file == kStandardStream ? std::string() : file) {
+    Parse(ReadInputFile(file));
+    if (ZAMTextMatches(_Root.GetName(), "svg")) {
+        _Drawings.push_back(_Root);
+    } else {
+        _Drawings = FindChildren(_Root, "svg");
+    }
+    if (_Drawings.empty()) {
+        throw Failure(ExitStatus::Failed, _Name + ": holds no svg element");
+    }
+}
+
+void Document::Parse(const std::string& content) {
+    const ZAMLightXmlInputStreamBuffer stream(reinterpret_cast<const unsigned char*>(content.data()),
+                                              static_cast<int>(content.size()));
+    ZAMLightXmlParser parser;
+    if (parser.Parse(stream, _Root) != 1) {
+        const ZAMLightXmlError& error = parser.GetError();
+        throw Failure(ExitStatus::Failed, _Name + ":" + std::to_string(error.line) + ":" +
+                                              std::to_string(error.column) + ": " + error.reason);
+    }
+}
+
+std::string Document::GetTitle() const {
+    const std::vector<ZAMLightXmlElement> titles = FindChildren(_Root, "title");
+    return titles.empty() ? std::string() : CollapseWhiteSpace(titles.front().GetTextContent().CastToCharPtr());
+}

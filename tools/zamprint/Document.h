@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/lightxml/ZAMLightXmlElement.h"
+
+#include <string>
+#include <vector>
+
+/// An SVG document: its root and its drawings.
+class Document {
+public:
+    /// Reads and parses a file, or standard input for "-". Throws a Failure when it cannot be read, is no well-formed
+    /// XML, or holds no drawing.
+    explicit Document(const std::string& file);
+
+    /// What messages call it.
+    [[nodiscard]] const std::string& GetName() const { return _Name; }
+    /// Where its relative references start from; empty for standard input.
+    [[nodiscard]] const std::string& GetPath() const { return _Path; }
+    [[nodiscard]] const ZAMLightXmlElement& GetRoot() const { return _Root; }
+    /// The root when it is an svg element, else those of its children that are one; each is a page.
+    [[nodiscard]] const std::vector<ZAMLightXmlElement>& GetDrawings() const { return _Drawings; }
+    /// The text of the root's title, runs of white space made one blank each; empty without a title.
+    [[nodiscard]] std::string GetTitle() const;
+
+private:
+    void Parse(const std::string& content);
+
+    std::string _Name;
+    std::string _Path;
+    ZAMLightXmlElement _Root;
+    std::vector<ZAMLightXmlElement> _Drawings;
+};

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/print/ZAMPrintGenerator.h"
+
+/// Lets several drawings become the pages of one document: each interpreter begins and ends a document of its own, and
+/// only the first beginning, and the end when all are done, reach the generator behind.
+class DocumentGenerator : public ZAMPrintGenerator {
+public:
+    /// The generator is borrowed.
+    explicit DocumentGenerator(ZAMPrintGenerator& generator) : _Generator(generator) {}
+
+    /// Ends the document of the generator behind.
+    int Finish() { return _Generator.EndDocument(); }
+
+    [[nodiscard]] double GetLargestPageSide() const override { return _Generator.GetLargestPageSide(); }
+    int BeginDocument(const ZAMPrintParameters& parameters) override;
+    int BeginPage(double width, double height) override { return _Generator.BeginPage(width, height); }
+    int EndPage() override { return _Generator.EndPage(); }
+    int EndDocument() override { return 1; }
+    void PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) override {
+        _Generator.PushClip(area, toPage);
+    }
+    void PopClip() override { _Generator.PopClip(); }
+    void AddLink(const ZAMMathBox2D& area, std::string_view address) override { _Generator.AddLink(area, address); }
+    void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                  const ZAMPrintPen* pen) override {
+        _Generator.DrawPath(path, toPage, fill, pen);
+    }
+    [[nodiscard]] std::string GetError() const override { return _Generator.GetError(); }
+
+private:
+    ZAMPrintGenerator& _Generator;
+    bool _Begun = false;
+};

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "tools/zamprint/OutputFormat.h"
+
+#include "framework/base/ZAMTextCompare.h"
+
+namespace {
+
+struct FormatRow {
+    std::string_view name;
+    OutputFormat format;
+};
+
+constexpr FormatRow kFormats[] = {
+    {"pdf", OutputFormat::Pdf},
+    {"png", OutputFormat::Png},
+    {"json", OutputFormat::Json},
+};
+
+} // namespace
+
+std::optional<OutputFormat> FindOutputFormat(std::string_view name) {
+    for (const FormatRow& row : kFormats) {
+        if (ZAMTextMatches(row.name, name)) {
+            return row.format;
+        }
+    }
+    return std::nullopt;
+}
+
+std::string ListOutputFormats() {
+    std::string list;
+    for (const FormatRow& row : kFormats) {
+        list += list.empty() ? "" : ", ";
+        list += row.name;
+    }
+    return list;
+}
+
+bool HasPages(OutputFormat format) {
+    return format == OutputFormat::Pdf;
+}
+
+bool IsBinary(OutputFormat format) {
+    return format != OutputFormat::Json;
+}

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "tools/zamprint/PageSizeProbe.h"
+
+int PageSizeProbe::BeginPage(double width, double height) {
+    _PageSize = {width, height};
+    return -1;
+}
