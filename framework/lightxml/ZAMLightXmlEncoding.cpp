@@ -17,7 +17,9 @@ public:
         }
     }
 
-    [[nodiscard]] bool IsOpen() const { return _Handle != reinterpret_cast<iconv_t>(-1); }
+    [[nodiscard]] bool IsOpen() const {
+        return _Handle != reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr): how POSIX says it
+    }
 
     // The code point that the byte stands for by itself, or -1.
     int CodePointOf(unsigned char byte) {

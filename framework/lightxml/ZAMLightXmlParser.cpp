@@ -29,7 +29,7 @@ public:
 
     bool Run(std::span<const char> bytes) {
         if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-            _Failure = "the document is larger than 2 GiB";
+            Stop("the document is larger than 2 GiB");
             return false;
         }
         // All in one call: expat starts over with an unfinished attribute at each further piece.
@@ -39,9 +39,10 @@ public:
     [[nodiscard]] std::shared_ptr<ZAMLightXmlDocument> GetDocument() const { return _Document; }
 
     [[nodiscard]] ZAMLightXmlError GetError() const {
-        const auto line = static_cast<std::uint32_t>(XML_GetCurrentLineNumber(_Parser));
-        const auto column = static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(_Parser)) + 1;
-        return {_Failure != nullptr ? _Failure : XML_ErrorString(XML_GetErrorCode(_Parser)), line, column};
+        if (_Failure != nullptr) {
+            return {_Failure, _FailureLine, _FailureColumn};
+        }
+        return {XML_ErrorString(XML_GetErrorCode(_Parser)), GetLine(), GetColumn()};
     }
 
 private:
@@ -73,21 +74,32 @@ private:
             Stop("elements are nested more than 256 deep");
             return;
         }
-        _Document->OpenElement(name, static_cast<std::uint32_t>(XML_GetCurrentLineNumber(_Parser)),
-                               static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(_Parser)) + 1);
+        _Document->OpenElement(name, GetLine(), GetColumn());
         for (; *attributes != nullptr; attributes += 2) {
             _Document->AddAttribute(attributes[0], attributes[1]);
         }
     }
 
+    // The place is taken here: expat goes on to the end of the tag before it stops.
     void Stop(const char* failure) {
         _Failure = failure;
+        _FailureLine = GetLine();
+        _FailureColumn = GetColumn();
         XML_StopParser(_Parser, XML_FALSE);
+    }
+
+    [[nodiscard]] std::uint32_t GetLine() const {
+        return static_cast<std::uint32_t>(XML_GetCurrentLineNumber(_Parser));
+    }
+    [[nodiscard]] std::uint32_t GetColumn() const {
+        return static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(_Parser)) + 1;
     }
 
     XML_Parser _Parser;
     std::shared_ptr<ZAMLightXmlDocument> _Document = std::make_shared<ZAMLightXmlDocument>();
     const char* _Failure = nullptr;
+    std::uint32_t _FailureLine = 0;
+    std::uint32_t _FailureColumn = 0;
 };
 
 } // namespace

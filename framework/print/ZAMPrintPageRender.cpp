@@ -83,18 +83,18 @@ void ZAMPrintPageRender::DrawElement(const ZAMPrtGraphicPrimitiveElt& element, c
         PathSink sink(_Path);
         ZAMPrintTraceFigure(*figure, sink);
         PaintPath(*figure, toPage);
-    } else if (ZAMPrintShapes::Visit(pointer, [&](const auto& shape) {
-                   PathSink sink(_Path);
-                   ZAMPrintTraceShape(shape, sink);
-                   PaintPath(shape, toPage);
-               })) {
-    } else if (ZAMPrintPieces::Visit(pointer, [&](const auto& piece) {
+    } else if (!ZAMPrintShapes::Visit(pointer,
+                                      [&](const auto& shape) {
+                                          PathSink sink(_Path);
+                                          ZAMPrintTraceShape(shape, sink);
+                                          PaintPath(shape, toPage);
+                                      }) &&
+               !ZAMPrintPieces::Visit(pointer, [&](const auto& piece) {
                    PathSink sink(_Path);
                    ZAMPrintContourTracer tracer(sink);
                    tracer.Add(piece);
                    StrokePath(piece.GetStrokeAttributes(), toPage);
                })) {
-    } else {
         DrawChildren(element, toPage);
     }
 }

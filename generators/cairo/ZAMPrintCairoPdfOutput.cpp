@@ -50,10 +50,10 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPdfOutput::BeginPage(double width, double heig
     return &*_Canvas;
 }
 
-/// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more rectangles
-/// it consists of: 100,000 marks spend 5 s of 6 on it. A first mark as large as the page makes the region one
-/// rectangle, to which nothing needs joining. The same rectangle twice is no interior under the even-odd rule, so nothing
-/// is painted.
+/// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more
+/// rectangles it consists of: 100,000 marks spend 5 s of 6 on it. A first mark as large as the page makes the region
+/// one rectangle, to which nothing needs joining. The same rectangle twice is no interior under the even-odd rule, so
+/// nothing is painted.
 void ZAMPrintCairoPdfOutput::MarkWholePage() {
     cairo_t* context = _Canvas->GetContext();
     cairo_set_fill_rule(context, CAIRO_FILL_RULE_EVEN_ODD);

@@ -45,7 +45,8 @@ std::string FirstDifference(const std::string& actual, const std::string& expect
             return "only the last line's end";
         }
         if (actualLine != expectedLine) {
-            return "line " + std::to_string(number) + "\n is        " + actualLine + "\n should be " + expectedLine;
+            std::string difference = "line " + std::to_string(number);
+            return difference.append("\n is        ").append(actualLine).append("\n should be ").append(expectedLine);
         }
     }
 }

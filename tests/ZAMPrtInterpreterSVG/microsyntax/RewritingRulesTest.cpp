@@ -49,7 +49,7 @@ void TrimLeft(std::string& text) {
 // Removes and returns what stands before the first `separator`, or everything.
 std::string Cut(std::string& text, char separator) {
     const std::size_t end = text.find(separator);
-    const std::string part = text.substr(0, end);
+    std::string part = text.substr(0, end);
     text.erase(0, end == std::string::npos ? end : end + 1);
     return part;
 }

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <random>
-#include <regex>
 
 namespace {
 
@@ -21,12 +20,20 @@ struct HostileMark {
     Dashes dashes = {};
 };
 
+/// The path with the number for each N.
+std::string InsertNumber(std::string path, const std::string& number) {
+    for (std::size_t at = path.find('N'); at != std::string::npos; at = path.find('N', at + number.size())) {
+        path.replace(at, 1, number);
+    }
+    return path;
+}
+
 std::vector<HostileMark> MakeHostileMarks() {
     const std::string line = "M 0 0 L 100 100 ";
     const std::string curve = "M 0 0 C 100 0 0 100 100 100 Z ";
     std::vector<HostileMark> marks;
     for (const std::string number : {"nan", "inf", "-inf", "1e308", "-1e308", "1e30", "8388608", "-4e6", "1e-310"}) {
-        const auto insert = [&](const char* path) { return std::regex_replace(path, std::regex("N"), number); };
+        const auto insert = [&](const char* path) { return InsertNumber(path, number); };
         const Dashes dashes = {2.0F, 1.0F};
         marks.push_back({insert("M N 0 L 100 100 L 0 N L 9 9 Z"), {}});
         marks.push_back({insert("M 0 0 L 100 100 C N 0 0 N N N L 5 5 Z"), {}});

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/print/ZAMPrintGenerator.h"
+
+#include <cmath>
+#include <limits>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+
+/// A generator that writes down what it is told, one line a call, in page coordinates.
+class RecordingGenerator : public ZAMPrintGenerator {
+public:
+    int failingCall = 0; ///< the call, counted from 1 among those that give a result, that fails; 0 for none
+    int failure = -1;    ///< what it gives then
+    bool throwsAtMarks = false;
+    double largestSide = std::numeric_limits<double>::infinity();
+    int calls = 0;
+
+    /// Everything so far, and forgets it.
+    std::string Take() {
+        std::string text = _Text.str();
+        _Text.str("");
+        return text;
+    }
+
+    double GetLargestPageSide() const override { return largestSide; }
+    int BeginDocument(const ZAMPrintParameters& /*parameters*/) override { return Call("document\n"); }
+    int BeginPage(double width, double height) override {
+        return Call("page " + Number(width) + " x " + Number(height) + "\n");
+    }
+    int EndPage() override { return Call("end page\n"); }
+    int EndDocument() override { return Call("end document\n"); }
+
+    void PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) override {
+        _Text << "clip" << Point(toPage.Apply(ZAMMathPoint2D{area.xMin, area.yMin}))
+              << Point(toPage.Apply(ZAMMathPoint2D{area.xMax, area.yMax})) << '\n';
+    }
+    void PopClip() override { _Text << "unclip\n"; }
+    void AddLink(const ZAMMathBox2D& area, std::string_view address) override {
+        _Text << "link " << address << Point({area.xMin, area.yMin}) << Point({area.xMax, area.yMax}) << '\n';
+    }
+
+    void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                  const ZAMPrintPen* pen) override {
+        if (throwsAtMarks) {
+            throw std::runtime_error("no marks here");
+        }
+        const ZAMMathPoint2D* point = path.GetPoints().data();
+        for (const auto verb : path.GetVerbs()) {
+            _Text << "MLCZ"[static_cast<int>(verb)];
+            for (std::size_t i = 0; i < ZAMPrintPath::PointsOf(verb); ++i) {
+                _Text << Point(toPage.Apply(*point++)).substr(i == 0 ? 1 : 0);
+            }
+            _Text << ' ';
+        }
+        if (fill != nullptr) {
+            _Text << "fill " << Colour(fill->colour) << (fill->rule == ZAMPrtFillRule::EvenOdd ? " evenodd " : " ");
+        }
+        if (pen != nullptr) {
+            _Text << "pen " << Colour(pen->colour) << ' ' << Number(pen->width) << ' ' << static_cast<int>(pen->cap)
+                  << ' ' << static_cast<int>(pen->join);
+            for (const float dash : pen->dashes) {
+                _Text << ' ' << dash;
+            }
+        }
+        _Text << '\n';
+    }
+
+    std::string GetError() const override { return {}; }
+
+private:
+    int Call(const std::string& text) {
+        _Text << text;
+        return ++calls == failingCall ? failure : 1;
+    }
+    static std::string Number(double value) {
+        std::ostringstream text;
+        text << (std::isfinite(value) ? std::round(value * 1e3) / 1e3 + 0.0 : value);
+        return std::isnan(value) ? "nan" : text.str();
+    }
+    static std::string Point(const ZAMMathPoint2D& point) { return " " + Number(point.x) + "," + Number(point.y); }
+    static std::string Colour(const ZAMPrintColour& colour) {
+        std::ostringstream text;
+        text << int{colour.red} << '/' << int{colour.green} << '/' << int{colour.blue} << '/' << int{colour.alpha};
+        return text.str();
+    }
+
+    std::ostringstream _Text;
+};
