@@ -12,7 +12,8 @@ thread_local int allocationsLeft = -1;
 
 } // namespace
 
-void* operator new(std::size_t size) {
+// Kept out of line: g++ sees a mismatch when it inlines one of these without the other.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     if (allocationsLeft == 0) {
         throw std::bad_alloc();
     }
@@ -20,10 +21,10 @@ void* operator new(std::size_t size) {
     void* const memory = std::malloc(size == 0 ? 1 : size);
     return memory != nullptr ? memory : throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
-void operator delete(void* memory, std::size_t /*size*/) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t /*size*/) noexcept {
     std::free(memory);
 }
 
