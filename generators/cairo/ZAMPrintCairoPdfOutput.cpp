@@ -51,14 +51,16 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPdfOutput::BeginPage(double width, double heig
 }
 
 /// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more
-/// rectangles it consists of: 100,000 marks spend 5 s of 6 on it. A first mark as large as the page makes the region
-/// one rectangle, to which nothing needs joining. The same rectangle twice is no interior under the even-odd rule, so
-/// nothing is painted.
+/// rectangles it consists of: a page of 100,000 marks spends most of its time there. A first mark as large as the page
+/// makes the region one rectangle, to which nothing needs joining. The same rectangle twice has no interior under the
+/// even-odd rule, and its edges, which some viewers show, lie off the page: nothing is painted.
 void ZAMPrintCairoPdfOutput::MarkWholePage() {
+    constexpr double kOff = 10.0;
     cairo_t* context = _Canvas->GetContext();
     cairo_set_fill_rule(context, CAIRO_FILL_RULE_EVEN_ODD);
-    cairo_rectangle(context, 0.0, 0.0, _Width, _Height);
-    cairo_rectangle(context, 0.0, 0.0, _Width, _Height);
+    for (int i = 0; i < 2; ++i) {
+        cairo_rectangle(context, -kOff, -kOff, _Width + 2 * kOff, _Height + 2 * kOff);
+    }
     cairo_fill(context);
 }
 
