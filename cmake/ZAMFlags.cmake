@@ -11,6 +11,10 @@ target_compile_options(zam_flags INTERFACE
     -ffp-contract=off)
 set_target_properties(zam_flags PROPERTIES INTERFACE_POSITION_INDEPENDENT_CODE ON)
 
+if(ZAM_BUILD_FUZZERS)
+    target_compile_options(zam_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(ZAM_SANITIZE)
     set(sanitizerOptions -fsanitize=${ZAM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(zam_flags INTERFACE ${sanitizerOptions})

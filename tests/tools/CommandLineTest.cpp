@@ -7,7 +7,7 @@ class CommandLineTest : public ToolTest {};
 
 TEST_F(CommandLineTest, WrongUsageIsOneLineAndNoOutput) {
     const struct {
-        std::vector<std::string> arguments;
+        Arguments arguments;
         std::string complaint;
     } rows[] = {
         {{"--tiles"}, "--tiles"},
@@ -40,10 +40,10 @@ TEST_F(CommandLineTest, WrongUsageIsOneLineAndNoOutput) {
         EXPECT_EQ(run.status, 2);
         EXPECT_EQ(run.out, "");
         EXPECT_TRUE(run.err.starts_with("zamprint: ")) << run.err;
-        EXPECT_NE(run.err.find(row.complaint), std::string::npos) << run.err;
+        EXPECT_TRUE(Contains(run.err, row.complaint)) << run.err;
         EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
     }
-    EXPECT_EQ(List(), (std::vector<std::string>{"a.svg", "link.svg"}));
+    EXPECT_EQ(List(), (Arguments{"a.svg", "link.svg"}));
     EXPECT_EQ(Read("a.svg"), MakeDrawing("width=\"10\" height=\"10\""));
 }
 
@@ -52,17 +52,17 @@ TEST_F(CommandLineTest, InformationGoesToStandardOutput) {
     EXPECT_EQ(help.status, 0) << help.err;
     for (const char* option : {"-o,--output", "-f,--format", "--page-size", "-w,--width", "-h,--height", "-d,--dpi",
                                "-b,--background", "--version", "--help"}) {
-        EXPECT_NE(help.out.find(option), std::string::npos) << option << "\n" << help.out;
+        EXPECT_TRUE(Contains(help.out, option)) << option << "\n" << help.out;
     }
     const RunResult version = Run({"--version"});
     EXPECT_EQ(version.status, 0);
     EXPECT_TRUE(version.out.starts_with("zamprint ") && version.out.ends_with("\n")) << version.out;
-    EXPECT_EQ(RunProgram(ZAM_ZAMPRINT_PATH, {"--help"}, {}, "/dev/full").status, 1);
+    EXPECT_EQ(Shell("$Z --help >/dev/full").status, 1);
 }
 
 TEST_F(CommandLineTest, TheFormatComesFromTheOptionElseTheEnding) {
     const struct {
-        std::vector<std::string> options;
+        Arguments options;
         std::string file;
         std::string start;
     } rows[] = {
@@ -76,7 +76,7 @@ TEST_F(CommandLineTest, TheFormatComesFromTheOptionElseTheEnding) {
     };
     std::filesystem::create_directory("folder.png");
     for (const auto& row : rows) {
-        std::vector<std::string> arguments = row.options;
+        Arguments arguments = row.options;
         arguments.insert(arguments.end(), {"-o", row.file, "--page-size", "document"});
         const RunResult run = Run(arguments, MakeDrawing("width=\"10\" height=\"10\""));
         EXPECT_EQ(run.status, 0) << run.err;

@@ -36,10 +36,10 @@ protected:
         SCOPED_TRACE(document.substr(0, 300));
         const RunResult pdf = Run({}, document);
         EXPECT_EQ(pdf.status, 0) << pdf.err;
-        EXPECT_NE(CheckPdf(pdf.out).find("Pages:"), std::string::npos);
+        EXPECT_TRUE(Contains(CheckPdf(pdf.out), "Pages:"));
         const RunResult png = Run({"-f", "png"}, document);
         EXPECT_EQ(png.status, printsPicture ? 0 : 1) << png.err;
-        EXPECT_EQ(ReadPng(png.out).width > 0, printsPicture);
+        EXPECT_EQ(Picture(png.out).width > 0, printsPicture);
         const RunResult json = Run({"-f", "json"}, document);
         EXPECT_EQ(json.status, 0) << json.err;
         EXPECT_TRUE(nlohmann::json::accept(json.out)) << json.out.substr(0, 1000);

@@ -13,7 +13,6 @@ protected:
         stat(file.c_str(), &status);
         return status.st_mode & 07777U;
     }
-    RunResult Shell(const std::string& command) const { return RunProgram("sh", {"-c", command}, {}, "/dev/null"); }
 };
 
 TEST_F(OutputTest, AFileIsReplacedAsAWhole) {
@@ -34,8 +33,7 @@ TEST_F(OutputTest, AFileIsReplacedAsAWhole) {
     EXPECT_EQ(Mode("old.json"), 0640U);
     EXPECT_EQ(Mode("new.json"), 0640U);
     EXPECT_TRUE(std::filesystem::is_symlink("folder/link.json") && std::filesystem::is_symlink("dangling.json"));
-    EXPECT_EQ(List(),
-              (std::vector<std::string>{"a.svg", "dangling.json", "folder", "new.json", "old.json", "other.json"}));
+    EXPECT_EQ(List(), (Arguments{"a.svg", "dangling.json", "folder", "new.json", "old.json", "other.json"}));
 }
 
 TEST_F(OutputTest, WhatCannotBeWrittenIsSaid) {
@@ -67,27 +65,26 @@ TEST_F(OutputTest, WhatCannotBeWrittenIsSaid) {
 TEST_F(OutputTest, DevicesAndPipesAreWrittenDirectly) {
     EXPECT_EQ(Run({"a.svg", "-o", "/dev/null"}).status, 0);
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
-    EXPECT_EQ(Shell("mkfifo pipe && { cat pipe >got & } && " ZAM_ZAMPRINT_PATH " a.svg -o pipe && wait").status, 0);
+    EXPECT_EQ(Shell("mkfifo pipe && { cat pipe >got & } && $Z a.svg -o pipe && wait").status, 0);
     EXPECT_TRUE(std::filesystem::is_fifo("pipe"));
-    EXPECT_NE(CheckPdf(Read("got")).find("Pages:           1\n"), std::string::npos);
+    EXPECT_TRUE(Contains(CheckPdf(Read("got")), "Pages:           1\n"));
 }
 
 TEST_F(OutputTest, StandardOutputFailsAloud) {
-    EXPECT_EQ(RunProgram(ZAM_ZAMPRINT_PATH, {"a.svg"}, {}, "/dev/full").err,
-              "zamprint: standard output: No space left on device\n");
-    EXPECT_EQ(Shell(ZAM_ZAMPRINT_PATH " a.svg >&-").err, "zamprint: standard output: Bad file descriptor\n");
+    EXPECT_EQ(Shell("$Z a.svg >/dev/full").err, "zamprint: standard output: No space left on device\n");
+    EXPECT_EQ(Shell("$Z a.svg >&-").err, "zamprint: standard output: Bad file descriptor\n");
     // The reader is gone for certain before the first byte is written.
-    const RunResult pipe = Shell("{ until [ -e gone ]; do sleep 0.01; done; " ZAM_ZAMPRINT_PATH
-                                 " a.svg; echo $? >status; } | { exec <&-; touch gone; }; cat status >&2");
+    const RunResult pipe = Shell("{ until [ -e gone ]; do sleep 0.01; done; $Z a.svg; echo $? >status; } | "
+                                 "{ exec <&-; touch gone; }; cat status >&2");
     EXPECT_EQ(pipe.err, "zamprint: standard output: Broken pipe\n1\n");
 }
 
 TEST_F(OutputTest, ATerminalGetsTextOnly) {
     const auto onTerminal = [&](const std::string& options) {
-        return RunProgram("script", {"-qec", ZAM_ZAMPRINT_PATH " a.svg " + options, "/dev/null"}, {}, "typescript");
+        return Shell("script -qec \"$Z a.svg " + options + "\" /dev/null");
     };
     EXPECT_EQ(onTerminal("").status, 2);
-    EXPECT_EQ(onTerminal("-f png -o -").out.find("PNG\r\n"), std::string::npos);
+    EXPECT_FALSE(Contains(onTerminal("-f png -o -").out, "PNG\r\n"));
     EXPECT_EQ(onTerminal("-f json").status, 0);
     EXPECT_EQ(onTerminal("-o a.pdf").status, 0);
 }

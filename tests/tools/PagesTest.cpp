@@ -9,7 +9,7 @@ TEST_F(PagesTest, PicturesHaveTheSizeAskedFor) {
     const std::string plain = MakeDrawing("width=\"200\" height=\"100\"");
     const struct {
         std::string drawing;
-        std::vector<std::string> options;
+        Arguments options;
         unsigned width;
         unsigned height;
     } rows[] = {
@@ -30,10 +30,10 @@ TEST_F(PagesTest, PicturesHaveTheSizeAskedFor) {
         {"<svg/>", {}, 1, 1},
     };
     for (const auto& row : rows) {
-        std::vector<std::string> arguments = {"-f", "png"};
+        Arguments arguments = {"-f", "png"};
         arguments.insert(arguments.end(), row.options.begin(), row.options.end());
         const RunResult run = Run(arguments, row.drawing);
-        const Picture picture = ReadPng(run.out);
+        const Picture picture(run.out);
         EXPECT_EQ(std::pair(picture.width, picture.height), std::pair(row.width, row.height))
             << row.drawing << testing::PrintToString(row.options) << run.err;
     }
@@ -41,7 +41,7 @@ TEST_F(PagesTest, PicturesHaveTheSizeAskedFor) {
 
 TEST_F(PagesTest, TheDrawingIsCentredOnItsBackground) {
     const struct {
-        std::vector<std::string> options;
+        Arguments options;
         std::string corner;
     } rows[] = {
         {{}, "00000000"},
@@ -53,9 +53,9 @@ TEST_F(PagesTest, TheDrawingIsCentredOnItsBackground) {
         {{"-b", "white", "-b", "yellow"}, "ffff00ff"},
     };
     for (const auto& row : rows) {
-        std::vector<std::string> arguments = {"-f", "png", "-w", "60", "-h", "60"};
+        Arguments arguments = {"-f", "png", "-w", "60", "-h", "60"};
         arguments.insert(arguments.end(), row.options.begin(), row.options.end());
-        const Picture picture = ReadPng(Run(arguments, MakeDrawing("width=\"200\" height=\"100\"")).out);
+        const Picture picture(Run(arguments, MakeDrawing("width=\"200\" height=\"100\"")).out);
         SCOPED_TRACE(testing::PrintToString(row.options));
         EXPECT_EQ(picture.At(0, 0), row.corner);
         EXPECT_EQ(picture.At(30, 13), row.corner);
@@ -73,16 +73,16 @@ TEST_F(PagesTest, EachDrawingIsAPageOfItsOwnSize) {
     const std::string info = CheckPdf(natural.out);
     for (const char* line : {"Title:           A short book\n", "Pages:           3\n", "Page    1 size:  72 x 36 pts",
                              "Page    2 size:  144 x 72 pts", "Page    3 size:  72 x 216 pts"}) {
-        EXPECT_NE(info.find(line), std::string::npos) << line << "\n" << info;
+        EXPECT_TRUE(Contains(info, line)) << line << "\n" << info;
     }
     const std::string wide = CheckPdf(Run({"-w", "900", "-d", "300"}, book).out);
-    EXPECT_NE(wide.find("Page    1 size:  720 x 360 pts"), std::string::npos) << wide;
-    EXPECT_NE(wide.find("Page    3 size:  720 x 2160 pts"), std::string::npos) << wide;
+    EXPECT_TRUE(Contains(wide, "Page    1 size:  720 x 360 pts")) << wide;
+    EXPECT_TRUE(Contains(wide, "Page    3 size:  720 x 2160 pts")) << wide;
 
     const RunResult picture = Run({"-f", "png"}, book);
     EXPECT_EQ(picture.status, 0);
-    EXPECT_EQ(ReadPng(picture.out).width, 90U);
-    EXPECT_NE(picture.err.find("zamprint: standard input: holds 3 drawings"), std::string::npos) << picture.err;
+    EXPECT_EQ(Picture(picture.out).width, 90U);
+    EXPECT_TRUE(Contains(picture.err, "zamprint: standard input: holds 3 drawings")) << picture.err;
 }
 
 TEST_F(PagesTest, APageThatIsTooLargeIsReducedAloud) {
@@ -90,7 +90,7 @@ TEST_F(PagesTest, APageThatIsTooLargeIsReducedAloud) {
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "zamprint: standard input: the page of 300 x 150 in is larger than 200 in and was reduced to "
                        "66.7 %\n");
-    EXPECT_NE(CheckPdf(run.out).find("size:  14400 x 7200 pts"), std::string::npos);
+    EXPECT_TRUE(Contains(CheckPdf(run.out), "size:  14400 x 7200 pts"));
     const RunResult picture = Run({"-f", "png", "-o", "a.png"}, MakeDrawing("width=\"1e6\" height=\"10\""));
     EXPECT_EQ(picture.status, 1);
     EXPECT_TRUE(picture.err.starts_with("zamprint: standard input: ")) << picture.err;
@@ -102,13 +102,13 @@ TEST_F(PagesTest, SourceDateEpochMakesTheSameBytes) {
     setenv("SOURCE_DATE_EPOCH", "981173106", 1);
     const std::string fixed = Run({}, drawing).out;
     EXPECT_EQ(Run({}, drawing).out, fixed);
-    EXPECT_NE(CheckPdf(fixed).find("20010203040506"), std::string::npos) << CheckPdf(fixed);
+    EXPECT_TRUE(Contains(CheckPdf(fixed), "20010203040506")) << CheckPdf(fixed);
     // What is no time is ignored, and the output carries that of printing.
     for (const char* text : {"", "-1", "yesterday", "99999999999999999999", "981173106x"}) {
         setenv("SOURCE_DATE_EPOCH", text, 1);
         const std::string info = CheckPdf(Run({}, drawing).out);
-        EXPECT_NE(info.find("CreationDate:    D:20"), std::string::npos) << text;
-        EXPECT_EQ(info.find("D:2001"), std::string::npos) << text;
+        EXPECT_TRUE(Contains(info, "CreationDate:    D:20")) << text;
+        EXPECT_FALSE(Contains(info, "D:2001")) << text;
     }
     unsetenv("SOURCE_DATE_EPOCH");
 }
