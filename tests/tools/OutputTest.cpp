@@ -17,7 +17,7 @@ protected:
 
 TEST_F(OutputTest, AFileIsReplacedAsAWhole) {
     Write("old.json", "old");
-    std::filesystem::permissions("old.json", std::filesystem::perms{0640});
+    std::filesystem::permissions("old.json", std::filesystem::perms{0604});
     std::filesystem::create_hard_link("old.json", "other.json");
     std::filesystem::create_directory("folder");
     std::filesystem::create_symlink("../old.json", "folder/link.json");
@@ -30,7 +30,7 @@ TEST_F(OutputTest, AFileIsReplacedAsAWhole) {
     }
     umask(before);
     EXPECT_EQ(Read("other.json"), "old") << "written over and not replaced";
-    EXPECT_EQ(Mode("old.json"), 0640U);
+    EXPECT_EQ(Mode("old.json"), 0604U);
     EXPECT_EQ(Mode("new.json"), 0640U);
     EXPECT_TRUE(std::filesystem::is_symlink("folder/link.json") && std::filesystem::is_symlink("dangling.json"));
     EXPECT_EQ(List(), (Arguments{"a.svg", "dangling.json", "folder", "new.json", "old.json", "other.json"}));

@@ -83,6 +83,9 @@ TEST_F(PagesTest, EachDrawingIsAPageOfItsOwnSize) {
     EXPECT_EQ(picture.status, 0);
     EXPECT_EQ(Picture(picture.out).width, 90U);
     EXPECT_TRUE(Contains(picture.err, "zamprint: standard input: holds 3 drawings")) << picture.err;
+    // Where nobody listens, the message does not end up in the picture.
+    EXPECT_EQ(Shell("$Z -f png -o a.png 2>&-", book).status, 0);
+    EXPECT_EQ(Read("a.png"), picture.out);
 }
 
 TEST_F(PagesTest, APageThatIsTooLargeIsReducedAloud) {

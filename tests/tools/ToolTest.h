@@ -44,7 +44,9 @@ protected:
     static std::string Read(const std::string& name);
     /// All names in the folder, sorted.
     static Arguments List(const std::string& folder = ".");
-    static bool Contains(const std::string& text, const std::string& part) { return text.find(part) != text.npos; }
+    static bool Contains(const std::string& text, const std::string& part) {
+        return text.find(part) != std::string::npos;
+    }
     /// A document of one filled square of 1000 units.
     static std::string MakeDrawing(const std::string& attributes) {
         return "<svg " + attributes + R"(><rect x="0" y="0" width="1000" height="1000" fill="#f00"/></svg>)";
