@@ -47,6 +47,17 @@ function(zam_add_shared_library NAME)
     endif()
 endfunction()
 
+# zam_add_module(<name> FOLDER <folder> OPENED_BY <layer> LINKS <library>...)
+# lib<name>.so, which a layer opens while a program runs: whatever holds the layer is built after it. It holds none of
+# the layers' objects.
+function(zam_add_module NAME)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "FOLDER;OPENED_BY" LINKS)
+    zam_glob_sources(${ARG_FOLDER})
+    add_library(${NAME} MODULE ${sources})
+    target_link_libraries(${NAME} PRIVATE zam_flags ${ARG_LINKS})
+    add_dependencies(zam_${ARG_OPENED_BY} ${NAME})
+endfunction()
+
 # zam_add_program(<name> FOLDER <folder> LINKS <shared library>...)
 function(zam_add_program NAME)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" FOLDER LINKS)
@@ -71,6 +82,10 @@ function(zam_add_test NAME)
     endforeach()
     add_test(NAME ${NAME} COMMAND test_${NAME})
     set_tests_properties(${NAME} PROPERTIES TIMEOUT 300)
+    if(ZAM_SANITIZE)
+        set(suppressions ${PROJECT_SOURCE_DIR}/cmake/lsan.supp)
+        set_tests_properties(${NAME} PROPERTIES ENVIRONMENT LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0)
+    endif()
 endfunction()
 
 # zam_add_readme_program()

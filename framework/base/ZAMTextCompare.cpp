@@ -69,3 +69,16 @@ int ZAMCompareText(std::string_view left, std::string_view right) noexcept {
     }
     return identical ? 2 : 1;
 }
+
+std::string ZAMFoldText(std::string_view text) {
+    std::string folded;
+    folded.reserve(text.size());
+    while (!text.empty()) {
+        const char first = text.front();
+        const utf8proc_int32_t codePoint = NextFolded(text);
+        utf8proc_uint8_t bytes[4];
+        const auto length = codePoint < 0 ? 0 : utf8proc_encode_char(codePoint, bytes);
+        length == 0 ? folded += first : folded.append(bytes, bytes + length);
+    }
+    return folded;
+}

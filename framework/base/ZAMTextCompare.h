@@ -3,11 +3,15 @@
 
 #include "framework/base/ZAMExport.h"
 
+#include <string>
 #include <string_view>
 
 /// Compares two UTF-8 texts: 2 when they are identical, 1 when they are equal but for letter case (Unicode simple case
 /// folding), else 0.
 ZAM_EXPORT int ZAMCompareText(std::string_view left, std::string_view right) noexcept;
+
+/// The same text for all texts that are equal, letter case aside: a key to look names up by.
+ZAM_EXPORT std::string ZAMFoldText(std::string_view text);
 
 /// True when the texts are equal, letter case aside: how names and keywords are matched.
 inline bool ZAMTextMatches(std::string_view left, std::string_view right) noexcept {

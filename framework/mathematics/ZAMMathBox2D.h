@@ -4,6 +4,7 @@
 #include "framework/mathematics/ZAMMathPoint2D.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 /// An upright rectangle, grown point by point; empty until the first one.
@@ -25,6 +26,9 @@ struct ZAMMathBox2D {
             xMax = std::max(xMax, point.x);
             yMax = std::max(yMax, point.y);
         }
+    }
+    [[nodiscard]] std::array<ZAMMathPoint2D, 4> Corners() const {
+        return {{{xMin, yMin}, {xMax, yMin}, {xMax, yMax}, {xMin, yMax}}};
     }
     /// What both boxes cover; empty when they do not meet.
     [[nodiscard]] ZAMMathBox2D Intersection(const ZAMMathBox2D& other) const {

@@ -63,6 +63,7 @@ TEST(TextCompareTest, Rows) {
         EXPECT_EQ(ZAMCompareText(row.left, row.right), row.result) << row.left << " and " << row.right;
         EXPECT_EQ(ZAMCompareText(row.right, row.left), row.result) << row.right << " and " << row.left;
         EXPECT_EQ(ZAMTextMatches(row.left, row.right), row.result > 0);
+        EXPECT_EQ(ZAMFoldText(row.left) == ZAMFoldText(row.right), row.result > 0) << row.left << " and " << row.right;
     }
 }
 
