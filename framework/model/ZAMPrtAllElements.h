@@ -16,3 +16,4 @@
 #include "framework/model/ZAMPrtPolylineElt.h"
 #include "framework/model/ZAMPrtPolyQuadraticBezierElt.h"
 #include "framework/model/ZAMPrtRectangleElt.h"
+#include "framework/model/ZAMPrtTextElt.h"

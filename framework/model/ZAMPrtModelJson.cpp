@@ -4,6 +4,7 @@
 #include "framework/base/ZAMJsonWriter.h"
 #include "framework/model/ZAMPrtAllElements.h"
 #include "framework/model/ZAMPrtTypeList.h"
+#include "framework/visualisation/ZAMFont.h"
 
 #include <span>
 #include <type_traits>
@@ -89,6 +90,14 @@ void WriteGeometry(ZAMJsonWriter& json, const ZAMPrtEllipticalArcElt& element) {
     json.Member("sweepAngle", arc.sweepAngle);
 }
 
+void WriteGeometry(ZAMJsonWriter& json, const ZAMPrtTextElt& text) {
+    WritePoint(json, "position", text.GetPosition());
+    WriteText(json, "text", text.GetText());
+    if (const ZAMPrtTextElt::ViewBox* box = text.GetViewBox()) {
+        json.Member("viewBox", {(*box)[0], (*box)[1], (*box)[2], (*box)[3]});
+    }
+}
+
 void WriteStroke(ZAMJsonWriter& json, const ZAMPrtStrokeAttributes& stroke) {
     json.Key("stroke");
     json.BeginObject();
@@ -138,6 +147,28 @@ void WritePaint(ZAMJsonWriter& json, const ZAMPrtPaintedElt& element) {
     WriteFill(json, element.GetFillAttributes());
 }
 
+void WritePaint(ZAMJsonWriter& json, const ZAMPrtTextElt& text) {
+    WritePaint(json, static_cast<const ZAMPrtPaintedElt&>(text));
+    const ZAMPrtTextAttributes& attributes = text.GetTextAttributes();
+    json.Key("textAttributes");
+    json.BeginObject();
+    json.Key("font");
+    if (attributes.GetFont() == nullptr) {
+        json.Null();
+    } else {
+        json.String(attributes.GetFont()->GetName());
+    }
+    json.Member("weight", attributes.GetWeight());
+    json.Member("height", attributes.GetHeight());
+    json.Member("anchor", attributes.GetAnchor());
+    json.Member("slant", attributes.GetSlant());
+    json.Member("direction", attributes.GetDirection());
+    json.Member("extraSpacing", attributes.GetExtraSpacing());
+    json.Member("expansion", attributes.GetExpansion());
+    json.Member("writingMode", attributes.GetWritingMode());
+    json.EndObject();
+}
+
 void WriteElement(ZAMJsonWriter& json, const ZAMPrtGraphicPrimitiveElt& element);
 
 void WriteChildren(ZAMJsonWriter& json, const ZAMPrtGraphicPrimitiveElt& element) {
@@ -152,7 +183,7 @@ void WriteChildren(ZAMJsonWriter& json, const ZAMPrtGraphicPrimitiveElt& element
 using WrittenElements =
     ZAMPrtTypeList<ZAMPrtGroupElt, ZAMPrtRectangleElt, ZAMPrtCircleElt, ZAMPrtEllipseElt, ZAMPrtLineElt,
                    ZAMPrtPolylineElt, ZAMPrtPolygonElt, ZAMPrtPolyCubicBezierElt, ZAMPrtPolyQuadraticBezierElt,
-                   ZAMPrtEllipticalArcElt, ZAMPrtClosedFigureElt, ZAMPrtClosedFigureRegionElt>;
+                   ZAMPrtEllipticalArcElt, ZAMPrtClosedFigureElt, ZAMPrtClosedFigureRegionElt, ZAMPrtTextElt>;
 
 void WriteElement(ZAMJsonWriter& json, const ZAMPrtGraphicPrimitiveElt& element) {
     json.BeginObject();

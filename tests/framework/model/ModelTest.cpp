@@ -3,6 +3,7 @@
 #include "framework/model/ZAMPrtAllElements.h"
 #include "framework/model/ZAMPrtModelJson.h"
 #include "framework/model/ZAMPrtTypeList.h"
+#include "framework/visualisation/ZAMFont.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -81,6 +82,62 @@ TEST(AttributesTest, ValuesCompareMemberByMember) {
     EXPECT_FALSE(fill == ZAMPrtFillAttributes());
     fill.SetFillColourIndex(0); // a colour ends the pattern
     EXPECT_TRUE(fill == ZAMPrtFillAttributes());
+}
+
+TEST(AttributesTest, OfText) {
+    using Text = ZAMPrtTextAttributes;
+    EXPECT_EQ(Text().GetFont(), nullptr);
+    EXPECT_EQ(static_cast<int>(Text().GetWeight()), 25);
+    EXPECT_EQ(Text().GetHeight(), 16.0);
+    EXPECT_EQ(static_cast<int>(Text().GetAnchor()), 29);
+    EXPECT_EQ(Text().GetSlant(), 0.0F);
+    EXPECT_EQ(Text().GetDirection(), 0.0F);
+    EXPECT_EQ(Text().GetExtraSpacing(), 0.0);
+    EXPECT_EQ(Text().GetExpansion(), 1.0);
+    EXPECT_EQ(static_cast<int>(Text().GetWritingMode()), 0);
+    static ZAMFont font(1, {});
+    void (*const changes[])(Text&) = {
+        [](Text& t) { t.SetFont(&font); },
+        [](Text& t) { t.SetWeight(ZAMPrintTextAttribute::WeightBold); },
+        [](Text& t) { t.SetHeight(17); },
+        [](Text& t) { t.SetAnchor(ZAMPrintTextAttribute::AnchorLast); },
+        [](Text& t) { t.SetSlant(1); },
+        [](Text& t) { t.SetDirection(1); },
+        [](Text& t) { t.SetExtraSpacing(1); },
+        [](Text& t) { t.SetExpansion(2); },
+        [](Text& t) { t.SetWritingMode(ZAMPrtTextWritingMode::TopToBottom); },
+    };
+    for (const auto change : changes) {
+        Text changed;
+        change(changed);
+        EXPECT_FALSE(changed == Text());
+        EXPECT_TRUE(Text(changed) == changed);
+    }
+}
+
+TEST(ElementTest, TextDuplicatesWithAllItHolds) {
+    const auto text = ZAMNew<ZAMPrtTextElt>();
+    EXPECT_EQ(text->GetText(), "");
+    EXPECT_EQ(text->GetViewBox(), nullptr);
+    EXPECT_EQ(text->GetDrawStyle(), ZAMPrtDrawStyle::Stroke);
+    ZAMPrtTextAttributes attributes;
+    attributes.SetHeight(3);
+    text->SetTextAttributes(attributes);
+    attributes.SetHeight(4); // the element has a copy
+    text->SetPosition({1, 2});
+    text->SetText("text");
+    text->SetViewBox(1, 2, 3, 4);
+    const auto duplicate = text->Duplicate();
+    text->SetText("changed");
+    text->SetPosition({});
+    text->SetTextAttributes(attributes);
+    const auto* const copy = ZAMPrtCast<ZAMPrtTextElt>(duplicate.Get());
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(copy->GetText(), "text");
+    EXPECT_EQ(copy->GetPosition(), (ZAMMathPoint2D{1, 2}));
+    EXPECT_EQ(copy->GetTextAttributes().GetHeight(), 3);
+    ASSERT_NE(copy->GetViewBox(), nullptr);
+    EXPECT_EQ(*copy->GetViewBox(), (ZAMPrtTextElt::ViewBox{1, 2, 3, 4}));
 }
 
 TEST(TransformTest, WhatIsAddedLastIsAppliedFirst) {
