@@ -7,6 +7,7 @@
 #include "framework/print/ZAMPrintPaint.h"
 #include "framework/print/ZAMPrintParameters.h"
 #include "framework/print/ZAMPrintPath.h"
+#include "framework/visualisation/ZAMTextLayout.h"
 
 #include <limits>
 #include <string>
@@ -46,6 +47,11 @@ public:
 
     /// Fills the path (unless `fill` is null), then strokes it (unless `pen` is null).
     virtual void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                          const ZAMPrintPen* pen) = 0;
+
+    /// Fills the glyphs of a text, then strokes them, as DrawPath does with a path. The map carries the layout's units,
+    /// relative to its anchor point, to the page. Where the output can, the text stays text.
+    virtual void DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                           const ZAMPrintPen* pen) = 0;
 
     /// What went wrong, in words for a person; empty when nothing did.

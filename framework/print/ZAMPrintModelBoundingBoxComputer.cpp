@@ -2,6 +2,7 @@
 #include "framework/print/ZAMPrintModelBoundingBoxComputer.h"
 
 #include "framework/print/ZAMPrintOutline.h"
+#include "framework/print/ZAMPrintTextPlacement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -85,6 +86,17 @@ private:
     ZAMMathPoint2D _Current;
 };
 
+void AddText(ZAMMathBox2D& box, const ZAMPrtTextElt& text, const ZAMMathAffine2D& map) {
+    const ZAMMathBox2D extents = ZAMPrintLayOut(text).GetExtents();
+    if (extents.IsEmpty()) {
+        return;
+    }
+    const ZAMMathAffine2D toBox = map * ZAMPrintTextPlacement(text);
+    for (const ZAMMathPoint2D& corner : extents.Corners()) {
+        box.Add(toBox.Apply(corner));
+    }
+}
+
 void AddElement(ZAMMathBox2D& box, const ZAMPrtGraphicPrimitiveElt& element, const ZAMMathAffine2D& map) {
     BoxSink sink(box, map);
     const ZAMPrtGraphicPrimitiveElt* const pointer = &element;
@@ -97,6 +109,10 @@ void AddElement(ZAMMathBox2D& box, const ZAMPrtGraphicPrimitiveElt& element, con
     }
     if (const auto* figure = ZAMPrtCast<ZAMPrtClosedFigureElt>(pointer)) {
         ZAMPrintTraceFigure(*figure, sink);
+        return;
+    }
+    if (const auto* text = ZAMPrtCast<ZAMPrtTextElt>(pointer)) {
+        AddText(box, *text, map);
         return;
     }
     for (const auto& child : element.GetChildren()) {

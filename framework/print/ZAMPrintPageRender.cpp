@@ -3,6 +3,7 @@
 
 #include "framework/print/ZAMPrintModelBoundingBoxComputer.h"
 #include "framework/print/ZAMPrintOutline.h"
+#include "framework/print/ZAMPrintTextPlacement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -77,24 +78,26 @@ void ZAMPrintPageRender::DrawChildren(const ZAMPrtGraphicPrimitiveElt& element, 
 
 void ZAMPrintPageRender::DrawElement(const ZAMPrtGraphicPrimitiveElt& element, const ZAMMathAffine2D& toPage) {
     const ZAMPrtGraphicPrimitiveElt* const pointer = &element;
+    const auto drawShape = [&](const auto& shape) {
+        PathSink sink(_Path);
+        ZAMPrintTraceShape(shape, sink);
+        PaintPath(shape, toPage);
+    };
+    const auto drawPiece = [&](const auto& piece) {
+        PathSink sink(_Path);
+        ZAMPrintContourTracer tracer(sink);
+        tracer.Add(piece);
+        StrokePath(piece.GetStrokeAttributes(), toPage);
+    };
     if (const auto* group = ZAMPrtCast<ZAMPrtGroupElt>(pointer)) {
         DrawGroup(*group, toPage);
     } else if (const auto* figure = ZAMPrtCast<ZAMPrtClosedFigureElt>(pointer)) {
         PathSink sink(_Path);
         ZAMPrintTraceFigure(*figure, sink);
         PaintPath(*figure, toPage);
-    } else if (!ZAMPrintShapes::Visit(pointer,
-                                      [&](const auto& shape) {
-                                          PathSink sink(_Path);
-                                          ZAMPrintTraceShape(shape, sink);
-                                          PaintPath(shape, toPage);
-                                      }) &&
-               !ZAMPrintPieces::Visit(pointer, [&](const auto& piece) {
-                   PathSink sink(_Path);
-                   ZAMPrintContourTracer tracer(sink);
-                   tracer.Add(piece);
-                   StrokePath(piece.GetStrokeAttributes(), toPage);
-               })) {
+    } else if (const auto* text = ZAMPrtCast<ZAMPrtTextElt>(pointer)) {
+        DrawText(*text, toPage);
+    } else if (!ZAMPrintShapes::Visit(pointer, drawShape) && !ZAMPrintPieces::Visit(pointer, drawPiece)) {
         DrawChildren(element, toPage);
     }
 }
@@ -154,25 +157,38 @@ void ZAMPrintPageRender::AddLink(const ZAMPrtGroupElt& group, const ZAMMathAffin
     }
 }
 
+void ZAMPrintPageRender::DrawText(const ZAMPrtTextElt& text, const ZAMMathAffine2D& toPage) {
+    const Paint paint = PaintOf(text);
+    if (!paint.Paints()) {
+        return;
+    }
+    const ZAMTextLayout layout = ZAMPrintLayOut(text);
+    if (!layout.IsEmpty()) {
+        _Generator.DrawText(layout, toPage * ZAMPrintTextPlacement(text), paint.GetFill(), paint.GetPen());
+    }
+}
+
 void ZAMPrintPageRender::PaintPath(const ZAMPrtPaintedElt& element, const ZAMMathAffine2D& toPage) {
-    const ZAMPrtDrawStyle style = element.GetDrawStyle();
-    DrawPath(Fills(style) ? &element.GetFillAttributes() : nullptr,
-             Strokes(style) ? &element.GetStrokeAttributes() : nullptr, toPage);
+    DrawPath(PaintOf(element), toPage);
 }
 
 void ZAMPrintPageRender::StrokePath(const ZAMPrtStrokeAttributes& stroke, const ZAMMathAffine2D& toPage) {
-    DrawPath(nullptr, &stroke, toPage);
+    Paint paint;
+    paint.strokes = Resolve(stroke, paint.pen);
+    DrawPath(paint, toPage);
 }
 
-void ZAMPrintPageRender::DrawPath(const ZAMPrtFillAttributes* fill, const ZAMPrtStrokeAttributes* stroke,
-                                  const ZAMMathAffine2D& toPage) {
-    ZAMPrintFill resolvedFill;
-    ZAMPrintPen resolvedPen;
-    const bool fills = fill != nullptr && Resolve(*fill, resolvedFill);
-    const bool strokes = stroke != nullptr && Resolve(*stroke, resolvedPen);
-    if ((fills || strokes) && !_Path.IsEmpty()) {
-        _Generator.DrawPath(_Path, toPage, fills ? &resolvedFill : nullptr, strokes ? &resolvedPen : nullptr);
+void ZAMPrintPageRender::DrawPath(const Paint& paint, const ZAMMathAffine2D& toPage) {
+    if (paint.Paints() && !_Path.IsEmpty()) {
+        _Generator.DrawPath(_Path, toPage, paint.GetFill(), paint.GetPen());
     }
+}
+
+ZAMPrintPageRender::Paint ZAMPrintPageRender::PaintOf(const ZAMPrtPaintedElt& element) const {
+    Paint paint;
+    paint.fills = Fills(element.GetDrawStyle()) && Resolve(element.GetFillAttributes(), paint.fill);
+    paint.strokes = Strokes(element.GetDrawStyle()) && Resolve(element.GetStrokeAttributes(), paint.pen);
+    return paint;
 }
 
 bool ZAMPrintPageRender::Resolve(unsigned int index, unsigned char transparency, ZAMPrintColour& colour) const {

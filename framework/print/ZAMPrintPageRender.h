@@ -26,9 +26,21 @@ private:
 
     void PaintPath(const ZAMPrtPaintedElt& element, const ZAMMathAffine2D& toPage);
     void StrokePath(const ZAMPrtStrokeAttributes& stroke, const ZAMMathAffine2D& toPage);
-    void DrawPath(const ZAMPrtFillAttributes* fill, const ZAMPrtStrokeAttributes* stroke,
-                  const ZAMMathAffine2D& toPage);
+    void DrawText(const ZAMPrtTextElt& text, const ZAMMathAffine2D& toPage);
 
+    // The resolved paint of one mark.
+    struct Paint {
+        ZAMPrintFill fill;
+        ZAMPrintPen pen;
+        bool fills = false;
+        bool strokes = false;
+
+        [[nodiscard]] bool Paints() const { return fills || strokes; }
+        [[nodiscard]] const ZAMPrintFill* GetFill() const { return fills ? &fill : nullptr; }
+        [[nodiscard]] const ZAMPrintPen* GetPen() const { return strokes ? &pen : nullptr; }
+    };
+    [[nodiscard]] Paint PaintOf(const ZAMPrtPaintedElt& element) const;
+    void DrawPath(const Paint& paint, const ZAMMathAffine2D& toPage);
     [[nodiscard]] bool Resolve(unsigned int index, unsigned char transparency, ZAMPrintColour& colour) const;
     [[nodiscard]] bool Resolve(const ZAMPrtFillAttributes& attributes, ZAMPrintFill& fill) const;
     [[nodiscard]] bool Resolve(const ZAMPrtStrokeAttributes& attributes, ZAMPrintPen& pen) const;

@@ -18,6 +18,7 @@ enum class ZAMPrintFit {
 struct ZAMPrintMetadata {
     std::string title;
     std::string author;
+    std::string subject;
     std::optional<std::time_t> creationTime; ///< without one the output carries the time of printing
 };
 

@@ -32,8 +32,7 @@ ZAMMathBox2D AreaOf(const ZAMPrtImageElt& image) {
 
 ZAMMathBox2D Mapped(const ZAMMathBox2D& area, const ZAMMathAffine2D& map) {
     ZAMMathBox2D box;
-    for (const ZAMMathPoint2D& corner : {ZAMMathPoint2D{area.xMin, area.yMin}, ZAMMathPoint2D{area.xMax, area.yMin},
-                                         ZAMMathPoint2D{area.xMax, area.yMax}, ZAMMathPoint2D{area.xMin, area.yMax}}) {
+    for (const ZAMMathPoint2D& corner : area.Corners()) {
         box.Add(map.Apply(corner));
     }
     return box;

@@ -2,6 +2,8 @@
 #include "framework/mathematics/ZAMMathConstants.h"
 #include "framework/model/ZAMPrtAllElements.h"
 #include "framework/print/ZAMPrintModelBoundingBoxComputer.h"
+#include "framework/visualisation/ZAMTextLayout.h"
+#include "tests/support/FontFolders.h"
 
 #include <cmath>
 #include <functional>
@@ -37,6 +39,16 @@ Element Arc(const ZAMMathEllipticalArc& arc) {
     return element;
 }
 
+Element Text(const char* content, double height = 8) {
+    auto text = ZAMNew<ZAMPrtTextElt>();
+    text->SetPosition({10, 20});
+    text->SetText(content);
+    ZAMPrtTextAttributes attributes;
+    attributes.SetHeight(height);
+    text->SetTextAttributes(attributes);
+    return text;
+}
+
 template <class Container> ZAMRef<Container> Holding(const std::vector<Element>& children) {
     auto container = ZAMNew<Container>();
     for (const Element& child : children) {
@@ -70,6 +82,8 @@ TEST(BoundingBoxTest, Rows) {
     rectangle->SetCorners({4, 1}, {-2, 3});
     rectangle->SetDrawStyle(ZAMPrtDrawStyle::None);
     const double diagonal = 5 * std::sqrt(2.0);
+    const ZAMMathBox2D ab = ZAMTextLayout("ab", {.height = 8}).GetExtents();
+    ASSERT_FALSE(ab.IsEmpty());
     const struct {
         Element element;
         ZAMMathBox2D box;
@@ -98,6 +112,14 @@ TEST(BoundingBoxTest, Rows) {
          {-5, 0, 0, 10}},
         {Group({Circle({kNaN, 0}, 1), Circle({0, 0}, kInfinity), Circle({0, 0}, kNaN), Circle({3, 3}, 1)}),
          {2, 2, 4, 4}},
+        {Moved(Text("ab"), Shift), {10 + ab.xMin, 20 + ab.yMin, 10 + ab.xMax, 20 + ab.yMax}},
+        {Group({Moved(Text("ab"),
+                      [](auto& t) {
+                          t.AddTranslation({1, 2});
+                          t.AddRotation(static_cast<float>(ZAMPI / 2));
+                      })}),
+         {1 - 20 - ab.yMax, 2 + 10 + ab.xMin, 1 - 20 - ab.yMin, 2 + 10 + ab.xMax}},
+        {Group({Text(""), Text("ab", kNaN), Text("ab", 0), Circle({3, 3}, 1)}), {2, 2, 4, 4}},
         // Within a figure only the geometry of the pieces counts.
         {Group({Holding<ZAMPrtClosedFigureElt>(
              {Moved(Holding<ZAMPrtClosedFigureRegionElt>({Moved(line, Shift), Circle({50, 50}, 9)}), Shift)})}),
@@ -107,7 +129,7 @@ TEST(BoundingBoxTest, Rows) {
         ZAMMathBox2D box;
         EXPECT_EQ(ZAMPrintModelBoundingBoxComputer::Compute(row.element.Get(), box.xMin, box.xMax, box.yMin, box.yMax),
                   1);
-        const double near = 1e-6 + std::abs(row.box.yMax) * 1e-12;
+        const double near = 2e-6 + std::abs(row.box.yMax) * 1e-12;
         EXPECT_NEAR(box.xMin, row.box.xMin, near) << &row - rows;
         EXPECT_NEAR(box.yMin, row.box.yMin, near) << &row - rows;
         EXPECT_NEAR(box.xMax, row.box.xMax, near) << &row - rows;
@@ -119,6 +141,7 @@ TEST(BoundingBoxTest, NothingDrawnLeavesTheValues) {
     const Element rows[] = {Element(),
                             Group({}),
                             Circle({0, 0}, 0),
+                            Text(""),
                             Circle({0, 0}, -1),
                             Arc({{0, 0}, 1, kNaN, 0, 0, 1}),
                             WithPoints<ZAMPrtPolylineElt>({}),

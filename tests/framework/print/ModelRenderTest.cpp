@@ -2,12 +2,15 @@
 #include "framework/mathematics/ZAMMathConstants.h"
 #include "framework/model/ZAMPrtAllElements.h"
 #include "framework/print/ZAMPrintModelRender.h"
+#include "framework/visualisation/ZAMTextLayout.h"
 #include "tests/framework/print/RecordingGenerator.h"
+#include "tests/support/FontFolders.h"
 
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
 #include <limits>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -313,6 +316,56 @@ TEST(ModelRenderTest, FiguresAndOutlinesAreStrungTogether) {
          "M0,100 L1,100 " + pen + "M1,90 L2,90 " + pen + "M7,93 L8,92 Z " + pen +
              "M1,100 L2,100 C2.552,100 3,99.552 3,99 " + pen},
     });
+}
+
+TEST(ModelRenderTest, TextIsDrawnWithItsLayoutWhereItStands) {
+    const auto number = [](double value) {
+        std::ostringstream text;
+        text << std::round(value * 1e3) / 1e3 + 0.0;
+        return text.str();
+    };
+    const ZAMMathBox2D box = ZAMTextLayout("ab", {.height = 8, .anchor = 38}).GetExtents();
+    ASSERT_LT(box.xMin, -5); // all of it is left of the anchor, half of it below
+    const std::string drawn = "\"ab\" at 25,60 in " + number(25 + 2 * box.xMin) + "," + number(60 - 2 * box.yMin) +
+                              " " + number(25 + 2 * box.xMax) + "," + number(60 - 2 * box.yMax) + " ";
+    const struct {
+        const char* text;
+        double height;
+        int style;
+        unsigned char transparency;
+        std::string marks;
+    } rows[] = {
+        {"ab", 8, 2, 7, drawn + "fill 255/0/0/7 \n"},
+        {"ab", 8, 1, 7, drawn + "pen 0/0/0/255 1 10 13\n"},
+        {"ab", 8, 3, 7, drawn + "fill 255/0/0/7 pen 0/0/0/255 1 10 13\n"},
+        {"ab", 8, 0, 7, ""},
+        {"ab", 8, 2, 0, ""},
+        {"", 8, 3, 7, ""},
+        {"ab", 0, 3, 7, ""},
+        {"ab", std::nan(""), 3, 7, ""},
+    };
+    for (const auto& row : rows) {
+        Scene scene;
+        auto& group = Add<ZAMPrtGroupElt>(scene.Image());
+        ZAMPrtTransformAttributes transform;
+        transform.AddTranslation({5, 0});
+        group.SetTransformAttributes(transform);
+        auto& text = Add<ZAMPrtTextElt>(group);
+        ZAMPrtTransformAttributes twice;
+        twice.AddScaleX(2);
+        twice.AddScaleY(2);
+        text.SetTransformAttributes(twice);
+        text.SetPosition({10, 20});
+        text.SetText(row.text);
+        text.SetDrawStyle(static_cast<ZAMPrtDrawStyle>(row.style));
+        text.SetStrokeAttributes(Stroke(0));
+        text.SetFillAttributes(Fill(1, row.transparency));
+        ZAMPrtTextAttributes attributes;
+        attributes.SetHeight(row.height);
+        attributes.SetAnchor(static_cast<ZAMPrintTextAttribute>(38));
+        text.SetTextAttributes(attributes);
+        EXPECT_EQ(scene.Marks(), row.marks) << "row " << &row - rows;
+    }
 }
 
 TEST(ModelRenderTest, LinksCoverWhatTheyHoldOnThePage) {

@@ -55,6 +55,23 @@ public:
             }
             _Text << ' ';
         }
+        AddPaint(fill, pen);
+    }
+
+    // The text and where its anchor point and the corners of its extents come to be.
+    void DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                  const ZAMPrintPen* pen) override {
+        const ZAMMathBox2D& box = layout.GetExtents();
+        _Text << '"' << layout.GetText() << "\" at" << Point(toPage.Apply(ZAMMathPoint2D{0, 0})) << " in"
+              << Point(toPage.Apply(ZAMMathPoint2D{box.xMin, box.yMin}))
+              << Point(toPage.Apply(ZAMMathPoint2D{box.xMax, box.yMax})) << ' ';
+        AddPaint(fill, pen);
+    }
+
+    std::string GetError() const override { return {}; }
+
+private:
+    void AddPaint(const ZAMPrintFill* fill, const ZAMPrintPen* pen) {
         if (fill != nullptr) {
             _Text << "fill " << Colour(fill->colour) << (fill->rule == ZAMPrtFillRule::EvenOdd ? " evenodd " : " ");
         }
@@ -67,10 +84,6 @@ public:
         }
         _Text << '\n';
     }
-
-    std::string GetError() const override { return {}; }
-
-private:
     int Call(const std::string& text) {
         _Text << text;
         return ++calls == failingCall ? failure : 1;
