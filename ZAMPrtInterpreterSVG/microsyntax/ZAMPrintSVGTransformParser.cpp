@@ -16,7 +16,7 @@ namespace {
 using TransformableElements =
     ZAMPrtTypeList<ZAMPrtCircleElt, ZAMPrtClosedFigureElt, ZAMPrtClosedFigureRegionElt, ZAMPrtEllipseElt,
                    ZAMPrtEllipticalArcElt, ZAMPrtGroupElt, ZAMPrtLineElt, ZAMPrtPolyCubicBezierElt, ZAMPrtPolygonElt,
-                   ZAMPrtPolylineElt, ZAMPrtPolyQuadraticBezierElt, ZAMPrtRectangleElt>;
+                   ZAMPrtPolylineElt, ZAMPrtPolyQuadraticBezierElt, ZAMPrtRectangleElt, ZAMPrtTextElt>;
 
 // The numbers of an argument list: as many as any function uses, and how many there were.
 struct Numbers {

@@ -3,6 +3,7 @@
 
 #include "framework/model/ZAMPrtFillAttributes.h"
 #include "framework/model/ZAMPrtStrokeAttributes.h"
+#include "framework/model/ZAMPrtTextAttributes.h"
 
 #include <utility>
 
@@ -13,18 +14,32 @@ struct ZAMPrintSVGAttributeState {
     ZAMPrtDrawStyle _DrawStyle = ZAMPrtDrawStyle::Fill;
     ZAMPrtStrokeAttributes _StrokeAttributes;
     ZAMPrtFillAttributes _FillAttributes;
+    ZAMPrtTextAttributes _TextAttributes;
+};
+
+/// What a kind of element saves of the state.
+enum class ZAMPrintSVGSaved {
+    All,  ///< containers and text
+    Paint ///< all but the text attributes: what the style of a shape sets there stays set
 };
 
 /// Saves the state of a parser and writes it back at the end of the scope, so that nothing an element sets reaches its
 /// siblings.
 class ZAMPrintSVGStateScope {
 public:
-    explicit ZAMPrintSVGStateScope(ZAMPrintSVGAttributeState& state) : _State(state), _Saved(state) {}
+    explicit ZAMPrintSVGStateScope(ZAMPrintSVGAttributeState& state, ZAMPrintSVGSaved what = ZAMPrintSVGSaved::All)
+        : _State(state), _Saved(state), _What(what) {}
     ZAMPrintSVGStateScope(const ZAMPrintSVGStateScope&) = delete;
     ZAMPrintSVGStateScope& operator=(const ZAMPrintSVGStateScope&) = delete;
-    ~ZAMPrintSVGStateScope() { _State = std::move(_Saved); }
+    ~ZAMPrintSVGStateScope() {
+        if (_What == ZAMPrintSVGSaved::Paint) {
+            _Saved._TextAttributes = _State._TextAttributes;
+        }
+        _State = std::move(_Saved);
+    }
 
 private:
     ZAMPrintSVGAttributeState& _State;
     ZAMPrintSVGAttributeState _Saved;
+    ZAMPrintSVGSaved _What;
 };

@@ -7,6 +7,7 @@
 #include "framework/model/ZAMPrtAllElements.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGLengthReader.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGAttributeState.h"
+#include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGFontFinder.h"
 
 #include <cstdint>
 #include <span>
@@ -89,7 +90,9 @@ private:
     int ParseShape(const ZAMLightXmlElementItf& element, Shape* shape, ReadGeometry readGeometry);
     void ParseShapeAttrib(const ZAMLightXmlElementItf& element);
 
-    // Titles and descriptions.
+    // Text, titles and descriptions.
+    int ParseTextElement(const ZAMLightXmlElementItf& element, ZAMPrtTextElt* text);
+    void ReadTextPosition(const ZAMLightXmlElementItf& element, ZAMPrtTextElt& text);
     int ParseDescElement(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* target);
     int ParseTitleElement(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* target);
 
@@ -99,13 +102,16 @@ private:
     void ParseColorAttrib(const ZAMLightXmlElementItf& element);
     void ParseGraphicsAttrib(const ZAMLightXmlElementItf& element);
     void ParsePaintAttrib(const ZAMLightXmlElementItf& element);
+    void ParseTextAttrib(const ZAMLightXmlElementItf& element);
+    void ParseTextContentAttrib(const ZAMLightXmlElementItf& element);
+    void ParseFontAttrib(const ZAMLightXmlElementItf& element);
     void ParseStyleAttrib(const ZAMLightXmlElementItf& element);
     static void ParseCoreAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive);
     void ParseTransformAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive) const;
     static void ParseXLinkReplaceAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive);
 
     // Properties, as attributes and in style.
-    enum class ReadingOperation : std::uint8_t { Opacity, Color, Graphics, Paint };
+    enum class ReadingOperation : std::uint8_t { Opacity, Color, Graphics, Paint, Text, TextContent, Font };
     // What the properties of one reading operation, or of one style, have to say together; applied at its end.
     struct PendingPaint {
         float strokeOpacity = 1.0F;
@@ -139,6 +145,12 @@ private:
     void ReadLineCap(std::string_view value, PendingPaint& pending);
     void ReadLineJoin(std::string_view value, PendingPaint& pending);
     void ReadStrokeWidth(std::string_view value, PendingPaint& pending);
+    void ReadWritingMode(std::string_view value, PendingPaint& pending);
+    void ReadLetterSpacing(std::string_view value, PendingPaint& pending);
+    void ReadTextAnchor(std::string_view value, PendingPaint& pending);
+    void ReadFontFamily(std::string_view value, PendingPaint& pending);
+    void ReadFontSize(std::string_view value, PendingPaint& pending);
+    void ReadFontWeight(std::string_view value, PendingPaint& pending);
     void ReadFillPaint(ZAMUnicodeString& text, PendingPaint& pending);
 
     int GetColor(ZAMUnicodeString& text, unsigned int& index);
@@ -160,4 +172,5 @@ private:
     double _ImageWidth = 0.0;
     double _ImageHeight = 0.0; ///< also what y coordinates are flipped about
     ZAMUnicodeString _CurrentPath;
+    ZAMPrintSVGFontFinder _Fonts;
 };

@@ -5,46 +5,32 @@
 #include "framework/base/ZAMTextCompare.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGNumberList.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGColorParser.h"
+#include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGKeywords.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGParser.h"
 
 #include <array>
-#include <span>
 
 namespace {
 
-template <class Code> struct Keyword {
-    std::string_view name;
-    Code code;
-};
-
-template <class Code> const Keyword<Code>* FindKeyword(std::span<const Keyword<Code>> keywords, std::string_view name) {
-    for (const Keyword<Code>& keyword : keywords) {
-        if (ZAMTextMatches(keyword.name, name)) {
-            return &keyword;
-        }
-    }
-    return nullptr;
-}
-
-constexpr Keyword<ZAMPrintLineAttribute> kLineCaps[] = {
+constexpr ZAMPrintSVGKeyword<ZAMPrintLineAttribute> kLineCaps[] = {
     {"butt", ZAMPrintLineAttribute::CapButt},
     {"round", ZAMPrintLineAttribute::CapRound},
     {"square", ZAMPrintLineAttribute::CapSquare},
 };
 
-constexpr Keyword<ZAMPrintLineAttribute> kLineJoins[] = {
+constexpr ZAMPrintSVGKeyword<ZAMPrintLineAttribute> kLineJoins[] = {
     {"miter", ZAMPrintLineAttribute::JoinMiter},
     {"round", ZAMPrintLineAttribute::JoinRound},
     {"bevel", ZAMPrintLineAttribute::JoinBevel},
 };
 
-constexpr Keyword<ZAMPrtFillRule> kFillRules[] = {
+constexpr ZAMPrintSVGKeyword<ZAMPrtFillRule> kFillRules[] = {
     {"nonzero", ZAMPrtFillRule::NonZero},
     {"evenodd", ZAMPrtFillRule::EvenOdd},
 };
 
 // "visible" draws both parts, whatever was set before.
-constexpr Keyword<ZAMPrtDrawStyle> kVisibilities[] = {
+constexpr ZAMPrintSVGKeyword<ZAMPrtDrawStyle> kVisibilities[] = {
     {"visible", ZAMPrtDrawStyle::StrokeAndFill},
     {"hidden", ZAMPrtDrawStyle::None},
     {"collapse", ZAMPrtDrawStyle::None},
@@ -108,7 +94,7 @@ void ZAMPrintSVGParser::ReadDisplay(std::string_view value, PendingPaint& /*pend
 }
 
 void ZAMPrintSVGParser::ReadVisibility(std::string_view value, PendingPaint& /*pending*/) {
-    if (const auto* keyword = FindKeyword<ZAMPrtDrawStyle>(kVisibilities, value)) {
+    if (const auto* keyword = ZAMPrintSVGFindKeyword(kVisibilities, value)) {
         _DrawStyle = keyword->code;
     }
 }
@@ -146,7 +132,7 @@ void ZAMPrintSVGParser::ReadFillPaint(ZAMUnicodeString& text, PendingPaint& pend
 }
 
 void ZAMPrintSVGParser::ReadFillRule(std::string_view value, PendingPaint& /*pending*/) {
-    if (const auto* keyword = FindKeyword<ZAMPrtFillRule>(kFillRules, value)) {
+    if (const auto* keyword = ZAMPrintSVGFindKeyword(kFillRules, value)) {
         _FillAttributes.SetFillRule(keyword->code);
     }
 }
@@ -190,13 +176,13 @@ void ZAMPrintSVGParser::ReadDashArray(std::string_view value, PendingPaint& /*pe
 }
 
 void ZAMPrintSVGParser::ReadLineCap(std::string_view value, PendingPaint& /*pending*/) {
-    if (const auto* keyword = FindKeyword<ZAMPrintLineAttribute>(kLineCaps, value)) {
+    if (const auto* keyword = ZAMPrintSVGFindKeyword(kLineCaps, value)) {
         _StrokeAttributes.SetStrokeCap(keyword->code);
     }
 }
 
 void ZAMPrintSVGParser::ReadLineJoin(std::string_view value, PendingPaint& /*pending*/) {
-    if (const auto* keyword = FindKeyword<ZAMPrintLineAttribute>(kLineJoins, value)) {
+    if (const auto* keyword = ZAMPrintSVGFindKeyword(kLineJoins, value)) {
         _StrokeAttributes.SetStrokeJoin(keyword->code);
     }
 }

@@ -70,6 +70,14 @@ const ZAMPrintSVGParser::PropertyRow ZAMPrintSVGParser::kProperties[] = {
     {"stroke-linecap", ReadingOperation::Paint, &ZAMPrintSVGParser::ReadLineCap, &ZAMPrintSVGParser::ReadLineCap},
     {"stroke-linejoin", ReadingOperation::Paint, &ZAMPrintSVGParser::ReadLineJoin, &ZAMPrintSVGParser::ReadLineJoin},
     {"stroke-width", ReadingOperation::Paint, &ZAMPrintSVGParser::ReadStrokeWidth, &ZAMPrintSVGParser::ReadStrokeWidth},
+    {"writing-mode", ReadingOperation::Text, &ZAMPrintSVGParser::ReadWritingMode, &ZAMPrintSVGParser::ReadWritingMode},
+    {"letter-spacing", ReadingOperation::TextContent, &ZAMPrintSVGParser::ReadLetterSpacing,
+     &ZAMPrintSVGParser::ReadLetterSpacing},
+    {"text-anchor", ReadingOperation::TextContent, &ZAMPrintSVGParser::ReadTextAnchor,
+     &ZAMPrintSVGParser::ReadTextAnchor},
+    {"font-family", ReadingOperation::Font, &ZAMPrintSVGParser::ReadFontFamily, &ZAMPrintSVGParser::ReadFontFamily},
+    {"font-size", ReadingOperation::Font, &ZAMPrintSVGParser::ReadFontSize, &ZAMPrintSVGParser::ReadFontSize},
+    {"font-weight", ReadingOperation::Font, &ZAMPrintSVGParser::ReadFontWeight, &ZAMPrintSVGParser::ReadFontWeight},
 };
 
 void ZAMPrintSVGParser::ParsePresentationAttrib(const ZAMLightXmlElementItf& element,
@@ -78,6 +86,9 @@ void ZAMPrintSVGParser::ParsePresentationAttrib(const ZAMLightXmlElementItf& ele
     ParseColorAttrib(element);
     ParseGraphicsAttrib(element);
     ParsePaintAttrib(element);
+    ParseTextAttrib(element);
+    ParseTextContentAttrib(element);
+    ParseFontAttrib(element);
 }
 
 void ZAMPrintSVGParser::ParseOpacityAttrib(const ZAMLightXmlElementItf& element) {
@@ -94,6 +105,18 @@ void ZAMPrintSVGParser::ParseGraphicsAttrib(const ZAMLightXmlElementItf& element
 
 void ZAMPrintSVGParser::ParsePaintAttrib(const ZAMLightXmlElementItf& element) {
     ReadAttributes(element, ReadingOperation::Paint);
+}
+
+void ZAMPrintSVGParser::ParseTextAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes(element, ReadingOperation::Text);
+}
+
+void ZAMPrintSVGParser::ParseTextContentAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes(element, ReadingOperation::TextContent);
+}
+
+void ZAMPrintSVGParser::ParseFontAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes(element, ReadingOperation::Font);
 }
 
 void ZAMPrintSVGParser::ReadAttributes(const ZAMLightXmlElementItf& element, ReadingOperation operation) {

@@ -21,7 +21,7 @@ int ZAMPrintSVGParser::ParseShape(const ZAMLightXmlElementItf& element, Shape* s
     if (shape == nullptr) {
         return -1;
     }
-    const ZAMPrintSVGStateScope saved(*this);
+    const ZAMPrintSVGStateScope saved(*this, ZAMPrintSVGSaved::Paint);
     ParseShapeAttrib(element);
     shape->SetStrokeAttributes(_StrokeAttributes);
     if constexpr (std::is_base_of_v<ZAMPrtPaintedElt, Shape>) {
@@ -110,7 +110,7 @@ int ZAMPrintSVGParser::ParsePathElement(const ZAMLightXmlElementItf& element, ZA
     if (group == nullptr) {
         return -1;
     }
-    const ZAMPrintSVGStateScope saved(*this);
+    const ZAMPrintSVGStateScope saved(*this, ZAMPrintSVGSaved::Paint);
     ParseShapeAttrib(element);
     ParseCoreAttrib(element, group);
     ParseTransformAttrib(element, group);

@@ -51,6 +51,7 @@ int ZAMPrintSVGParser::ParseChildEltAsGraphicPrimitiveElement(const ZAMLightXmlE
     using P = ZAMPrintSVGParser;
     static constexpr ElementRow kRows[] = {
         {"path", &P::ParseNew<ZAMPrtGroupElt, &P::ParsePathElement>},
+        {"text", &P::ParseNew<ZAMPrtTextElt, &P::ParseTextElement>},
         {"rect", &P::ParseNew<ZAMPrtRectangleElt, &P::ParseRectElement>},
         {"circle", &P::ParseNew<ZAMPrtCircleElt, &P::ParseCircleElement>},
         {"ellipse", &P::ParseNew<ZAMPrtEllipseElt, &P::ParseEllipseElement>},

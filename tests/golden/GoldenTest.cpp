@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Each document below this folder is decoded and compared with the JSON beside it. With ZAM_REGENERATE=1 in the
 // environment the JSON is written anew instead: read the difference before keeping it.
+#include "tests/support/FontFolders.h"
 #include "tests/support/SvgDecoding.h"
 
 #include <algorithm>

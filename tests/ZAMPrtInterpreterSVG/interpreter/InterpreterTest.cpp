@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "framework/visualisation/ZAMTextLayout.h"
+#include "tests/support/FontFolders.h"
 #include "tests/support/SvgDecoding.h"
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVG2Interpreter.h"
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVGGetDocumentSize.h"
@@ -25,6 +27,8 @@ public:
                   const ZAMPrintPen* /*pen*/) override {
         ++_Paths;
     }
+    void DrawText(const ZAMTextLayout& /*layout*/, const ZAMMathAffine2D& /*toPage*/, const ZAMPrintFill* /*fill*/,
+                  const ZAMPrintPen* /*pen*/) override {}
     [[nodiscard]] std::string GetError() const override { return ""; }
 
     int _Result = 1;
@@ -131,6 +135,21 @@ TEST(Decoder, RootsAndErrors) {
     }
     EXPECT_EQ(DecodeToJson("<svg><rect/><circle/><g><line/></x>"),
               DecodeToJson("<svg><rect/><circle/><g><line/></g></svg>"));
+}
+
+TEST(Decoder, SizeOfADocumentOfText) {
+    const ZAMLightXmlElement root = ParseDocument("<svg><text x='10' y='20' font-size='40'>Size</text></svg>");
+    ZAMPrintSVG2Interpreter decoder(&root);
+    const auto model = ZAMNew<ZAMPrtModel>();
+    ZAMPrintSVGModelDriver driver(model.Get());
+    ASSERT_EQ(decoder.Decode(&driver), 1);
+    const ZAMMathBox2D extents = ZAMTextLayout("Size", {.height = 40}).GetExtents();
+    ASSERT_GT(extents.xMax, 40);
+    const ZAMPrtImageElt& image = *model->GetImages()[0];
+    EXPECT_NEAR(image.GetOrigin().x, 10 + extents.xMin, 1e-9);
+    EXPECT_NEAR(image.GetOrigin().y, -20 + extents.yMin, 1e-9);
+    EXPECT_NEAR(image.GetSize().x, extents.xMax - extents.xMin, 1e-9);
+    EXPECT_NEAR(image.GetSize().y, extents.yMax - extents.yMin, 1e-9);
 }
 
 TEST(Decoder, ElementsAndDrivers) {
