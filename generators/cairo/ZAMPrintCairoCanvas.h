@@ -25,6 +25,11 @@ public:
     /// For what is particular to one kind of surface. Between marks it has no path and the identity as its matrix.
     [[nodiscard]] cairo_t* GetContext() const { return _Context.get(); }
 
+    [[nodiscard]] Kind GetKind() const { return _Kind; }
+    /// In device units.
+    [[nodiscard]] const ZAMMathBox2D& GetPage() const { return _Page; }
+    [[nodiscard]] ZAMMathAffine2D ToDevice(const ZAMMathAffine2D& toPage) const;
+
     /// Covers what the clips leave open.
     void Paint(const ZAMPrintColour& colour);
     void PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage);
@@ -35,7 +40,6 @@ public:
                   const ZAMPrintPen* pen);
 
 private:
-    [[nodiscard]] ZAMMathAffine2D ToDevice(const ZAMMathAffine2D& toPage) const;
     [[nodiscard]] ZAMMathBox2D GetView(double reach) const;
     void ClipTo(const ZAMMathBox2D& area, const ZAMMathAffine2D& toDevice);
     [[nodiscard]] bool IsMuchWork(double reach) const;

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "generators/cairo/ZAMPrintCairoGenerator.h"
 
+#include "generators/cairo/ZAMPrintCairoBitmaps.h"
 #include "generators/cairo/ZAMPrintCairoCanvas.h"
 #include "generators/cairo/ZAMPrintCairoFailure.h"
+#include "generators/cairo/ZAMPrintCairoFonts.h"
 #include "generators/cairo/ZAMPrintCairoPdfOutput.h"
 #include "generators/cairo/ZAMPrintCairoPngOutput.h"
 #include "generators/cairo/ZAMPrintCairoStream.h"
+#include "generators/cairo/ZAMPrintCairoText.h"
 
 #include <cmath>
 #include <exception>
@@ -90,6 +93,10 @@ public:
             throw ZAMPrintCairoFailure("cannot write the output");
         }
     }
+    void DrawText(ZAMPrintCairoCanvas& canvas, const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage,
+                  const ZAMPrintFill* fill, const ZAMPrintPen* pen) {
+        ZAMPrintCairoText(canvas, _Fonts, _Bitmaps, layout, toPage).Draw(fill, pen);
+    }
     void AddLink(const ZAMMathBox2D& area, std::string_view address) {
         const ZAMMathBox2D visible = area.Intersection(_Page);
         if (visible.Width() > 0.0 && visible.Height() > 0.0) {
@@ -120,6 +127,8 @@ private:
     }
 
     ZAMPrintCairoStream _Stream;
+    ZAMPrintCairoFonts _Fonts;
+    ZAMPrintCairoBitmaps _Bitmaps;
     std::unique_ptr<ZAMPrintCairoOutput> _Output;
     State _State = State::New;
     std::string _Error;
@@ -173,6 +182,12 @@ void ZAMPrintCairoGenerator::AddLink(const ZAMMathBox2D& area, std::string_view 
 void ZAMPrintCairoGenerator::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                                       const ZAMPrintPen* pen) {
     _Implementation->Draw([&](ZAMPrintCairoCanvas& canvas) { canvas.DrawPath(path, toPage, fill, pen); });
+}
+
+void ZAMPrintCairoGenerator::DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage,
+                                      const ZAMPrintFill* fill, const ZAMPrintPen* pen) {
+    _Implementation->Draw(
+        [&](ZAMPrintCairoCanvas& canvas) { _Implementation->DrawText(canvas, layout, toPage, fill, pen); });
 }
 
 std::string ZAMPrintCairoGenerator::GetError() const {

@@ -34,6 +34,10 @@ public:
     void AddLink(const ZAMMathBox2D& area, std::string_view address) override;
     void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen) override;
+    /// A PDF holds text that can be selected and searched, with the used parts of its fonts. Strokes of text, text with
+    /// an em above 2,000 points, and all text of a PNG are outlines; emoji are pictures.
+    void DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                  const ZAMPrintPen* pen) override;
     [[nodiscard]] std::string GetError() const override;
 
 private:

@@ -38,6 +38,26 @@ inline constexpr double kManyDashSteps = 1e4;
 /// edges; from here on, where several seconds are at stake and edges cover the picture several times, it need not.
 inline constexpr double kMostEdgeRows = 5e6;
 
+/// The em of a text that cairo shows, in device units. Above about 2,500 FreeType fails, and with it all that follows:
+/// larger texts become outlines. Smaller ones than the second are left out.
+inline constexpr double kLargestEm = 2000.0;
+inline constexpr double kSmallestEm = 1e-3;
+
+/// The narrow side of an em that its map flattens, relative to the wide one. Cairo reckons with FreeType's numbers,
+/// which have 16 binary places, and drops glyphs whose boxes these make empty: flatter texts become outlines.
+inline constexpr double kFlattestEm = 1e-3;
+
+/// The em of glyphs that are pictures, in device units: its narrow side is as long at least. Cairo reckons with the map
+/// and the inverse of a picture in 16.16 fixed point.
+inline constexpr double kSmallestBitmapEm = 0.1;
+
+/// How far from its origin a glyph has ink, in ems: fonts have coordinates of 16 bits and 1,000 of them or more to the
+/// em.
+inline constexpr double kFarthestInk = 33.0;
+
+/// From so many points on the outlines of a text become a mark, and the next ones another, to keep memory small.
+inline constexpr std::size_t kManyOutlinePoints = 100000;
+
 /// Sides of a PDF page in points (ISO 32000-1, annex C). Below the smallest, readers see an empty box.
 inline constexpr double kLargestPdfSide = 14400.0;
 inline constexpr double kSmallestPdfSide = 1e-3;

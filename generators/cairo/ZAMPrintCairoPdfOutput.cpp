@@ -107,6 +107,7 @@ void ZAMPrintCairoPdfOutput::SetMetadata(const ZAMPrintMetadata& metadata) {
     };
     set(CAIRO_PDF_METADATA_TITLE, ZAMPrintCairoMetadata::KeepCharacters(metadata.title));
     set(CAIRO_PDF_METADATA_AUTHOR, ZAMPrintCairoMetadata::KeepCharacters(metadata.author));
+    set(CAIRO_PDF_METADATA_SUBJECT, ZAMPrintCairoMetadata::KeepCharacters(metadata.subject));
     set(CAIRO_PDF_METADATA_CREATOR, ZAMPrintCairoMetadata::kCreator);
     if (metadata.creationTime) {
         if (const auto calendar = ZAMPrintCairoMetadata::ToCalendar(*metadata.creationTime)) {

@@ -3,6 +3,7 @@
 
 #include "generators/cairo/ZAMPrintCairoColour.h"
 #include "generators/cairo/ZAMPrintCairoLimits.h"
+#include "generators/cairo/ZAMPrintCairoStretch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -32,18 +33,6 @@ cairo_line_join_t ToJoin(ZAMPrintLineAttribute join) {
     }
 }
 
-/// The longest and the shortest image of a vector of length 1.
-struct Stretch {
-    double longest;
-    double shortest;
-};
-
-Stretch MeasureStretch(const ZAMMath2x2Matrix& m) {
-    const double turning = std::hypot(m.a + m.d, m.c - m.b);
-    const double mirroring = std::hypot(m.a - m.d, m.c + m.b);
-    return {(turning + mirroring) / 2.0, std::abs(turning - mirroring) / 2.0};
-}
-
 ZAMMath2x2Matrix Divide(const ZAMMath2x2Matrix& m, double divisor) {
     return {m.a / divisor, m.b / divisor, m.c / divisor, m.d / divisor};
 }
@@ -56,7 +45,7 @@ ZAMMath2x2Matrix Invert(const ZAMMath2x2Matrix& m) {
 
 ZAMPrintCairoPen::ZAMPrintCairoPen(const ZAMPrintPen& pen, const ZAMMath2x2Matrix& toDevice)
     : _Colour(pen.colour), _Cap(ToCap(pen.cap)), _Join(ToJoin(pen.join)) {
-    const Stretch stretch = MeasureStretch(toDevice);
+    const ZAMPrintCairoStretch stretch(toDevice);
     const double flatness = stretch.shortest / stretch.longest;
     const double width = pen.width * stretch.longest;
     // Written so that NaN fails as well.

@@ -13,6 +13,7 @@
 #include <optional>
 #include <png.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -74,6 +75,12 @@ void ConvertToRgba(const Pixels& pixels, int y, unsigned char* out) {
     }
 }
 
+// Libpng asks for memory that may be changed, though it changes nothing.
+struct Text {
+    std::array<char, 12> key;
+    std::string value;
+};
+
 /// All that the writing needs, made before libpng is called: what stands below its jump must own nothing.
 struct Job {
     png_structp png = nullptr;
@@ -81,8 +88,7 @@ struct Job {
     Pixels pixels{};
     bool isOpaque = false;
     png_uint_32 pixelsPerMetre = 0;
-    std::string title;
-    std::string author;
+    std::vector<Text> texts;
     std::optional<std::tm> time;
     std::vector<unsigned char> row;
 
@@ -106,27 +112,15 @@ void FlushBytes(png_structp /*png*/) {}
 
 void Ignore(png_structp /*png*/, png_const_charp /*message*/) {}
 
-void WriteTexts(const Job& job) {
-    // PNG wants keywords in Latin-1 and short, texts in UTF-8 as iTXt.
-    std::array<char, 9> title = {"Title"};
-    std::array<char, 9> author = {"Author"};
-    std::array<char, 9> software = {"Software"};
-    std::array<png_text, 3> texts{};
-    int count = 0;
-    const auto add = [&](char* key, const char* text) {
-        png_text& entry = texts[static_cast<std::size_t>(count++)];
+// PNG wants keywords in Latin-1 and short, texts in UTF-8 as iTXt.
+void WriteTexts(Job& job) {
+    for (Text& text : job.texts) {
+        png_text entry{};
         entry.compression = PNG_ITXT_COMPRESSION_NONE;
-        entry.key = key;
-        entry.text = const_cast<char*>(text); // libpng reads it only
-    };
-    if (!job.title.empty()) {
-        add(title.data(), job.title.c_str());
+        entry.key = text.key.data();
+        entry.text = text.value.data();
+        png_set_text(job.png, job.info, &entry, 1);
     }
-    if (!job.author.empty()) {
-        add(author.data(), job.author.c_str());
-    }
-    add(software.data(), ZAMPrintCairoMetadata::kCreator);
-    png_set_text(job.png, job.info, texts.data(), count);
 }
 
 void WriteTime(const Job& job) {
@@ -180,8 +174,16 @@ void ZAMPrintCairoPngWriter::Write(cairo_surface_t* picture, double resolution, 
                   cairo_image_surface_get_height(picture), cairo_image_surface_get_stride(picture)};
     job.isOpaque = IsOpaque(job.pixels);
     job.pixelsPerMetre = static_cast<png_uint_32>(std::clamp(std::round(resolution / 0.0254), 1.0, 2147483647.0));
-    job.title = ZAMPrintCairoMetadata::KeepCharacters(metadata.title);
-    job.author = ZAMPrintCairoMetadata::KeepCharacters(metadata.author);
+    const Text texts[] = {{{"Title"}, metadata.title},
+                          {{"Author"}, metadata.author},
+                          {{"Description"}, metadata.subject},
+                          {{"Software"}, ZAMPrintCairoMetadata::kCreator}};
+    for (const Text& text : texts) {
+        std::string value = ZAMPrintCairoMetadata::KeepCharacters(text.value);
+        if (!value.empty()) {
+            job.texts.push_back({text.key, std::move(value)});
+        }
+    }
     if (metadata.creationTime) {
         job.time = ZAMPrintCairoMetadata::ToCalendar(*metadata.creationTime);
     }

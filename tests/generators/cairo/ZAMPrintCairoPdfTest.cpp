@@ -133,11 +133,12 @@ TEST(ZAMPrintCairoPdf, SaysWhatItIs) {
     };
     for (const auto& row : rows) {
         ZAMPrintParameters parameters;
-        parameters.metadata = {row.title, "Ann", row.time};
+        parameters.metadata = {row.title, "Ann", "A subject", row.time};
         const std::string pdf = DrawPdf([](auto&) {}, parameters);
         const std::string info = Ask("pdfinfo", "-rawdates {}", pdf);
         EXPECT_EQ(Count(info, "Title:           " + row.shownTitle + "\n"), row.shownTitle.empty() ? 0 : 1) << info;
         EXPECT_EQ(Count(info, "Author:          Ann\n"), 1) << info;
+        EXPECT_EQ(Count(info, "Subject:         A subject\n"), 1) << info;
         EXPECT_EQ(Count(info, "Creator:         ZAM print\n"), 1) << info;
         EXPECT_EQ(Count(info, "CreationDate:    " + row.shownDate), 1) << info;
         EXPECT_EQ(Count(info, "ModDate:         " + row.shownDate), 1) << info;

@@ -175,7 +175,7 @@ TEST(ZAMPrintCairoPng, SaysWhatItIs) {
     ZAMPrintParameters parameters;
     parameters.metadata = {"Gr\xC3\xBC\xC3\x9F"
                            "e\xFF",
-                           "Ann", 981173106};
+                           "Ann", "Of", 981173106};
     const auto nothing = [](auto&) {};
     const std::string png = DrawPng(nothing, parameters);
     EXPECT_NE(png.find(std::string("Title\0\0\0\0\0Gr\xC3\xBC\xC3\x9F"
@@ -183,6 +183,7 @@ TEST(ZAMPrintCairoPng, SaysWhatItIs) {
                                    16)),
               std::string::npos);
     EXPECT_NE(png.find(std::string("Author\0\0\0\0\0Ann", 14)), std::string::npos);
+    EXPECT_NE(png.find(std::string("Description\0\0\0\0\0Of", 18)), std::string::npos);
     EXPECT_NE(png.find("tIME\x07\xD1\x02\x03\x04\x05\x06"), std::string::npos);
     EXPECT_NE(png.find(std::string("pHYs\0\0\x0B\x13\0\0\x0B\x13\x01", 13)), std::string::npos)
         << "2835 pixels a metre";
