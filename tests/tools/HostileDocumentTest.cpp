@@ -45,6 +45,28 @@ protected:
         EXPECT_TRUE(nlohmann::json::accept(json.out)) << json.out.substr(0, 1000);
         EXPECT_LT(pdf.seconds + png.seconds + json.seconds, 10.0);
     }
+
+    // What stands before and after a text is printed whatever the text is.
+    static std::string AroundText(const std::string& attributes, const std::string& content) {
+        return R"(<svg width="100" height="100"><rect width="20" height="20" fill="red"/><text x="50" y="60" )" +
+               attributes + ">" + content + R"(</text><rect x="80" y="80" width="20" height="20" fill="blue"/></svg>)";
+    }
+
+    void ExpectHarmlessText(const std::string& attributes, const std::string& content = "Text") const {
+        const std::string document = AroundText(attributes, content);
+        ExpectOrderly(document);
+        const Picture picture(Run({"-f", "png"}, document).out);
+        EXPECT_EQ(picture.At(1, 1), "ff0000ff") << document.substr(0, 300);
+        EXPECT_EQ(picture.At(99, 99), "0000ffff") << document.substr(0, 300);
+    }
+
+    static std::string Repeated(const std::string& piece, int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i) {
+            text += piece;
+        }
+        return text;
+    }
 };
 
 TEST_F(HostileDocumentTest, NumbersOfAnyKindGiveAValidOutput) {
@@ -97,4 +119,58 @@ TEST_F(HostileDocumentTest, StructuresGiveAValidOutputOrAClearError) {
         path += " L " + std::to_string(i * 7919 % 100) + " " + std::to_string(i * 104729 % 100);
     }
     ExpectOrderly(path + "\"/></svg>");
+}
+
+TEST_F(HostileDocumentTest, TextOfAnyKindLeavesTheRestOfThePage) {
+    for (const char* property : {"font-size", "letter-spacing"}) {
+        for (const char* value : {"0", "-1", "1e9", "-1e9", "1e300", "1e-300", "nan", "inf", "4000000000%"}) {
+            const std::string attribute = property + std::string("=\"") + value + "\"";
+            ExpectHarmlessText(attribute + " stroke=\"green\" fill=\"none\" text-anchor=\"middle\"");
+        }
+    }
+    ExpectHarmlessText("dx=\"nan\" rotate=\"nan\" writing-mode=\"tb\" dy=\"1e300\"");
+    ExpectHarmlessText("transform=\"scale(0)\" letter-spacing=\"1e9\" font-size=\"1e9\"");
+    ExpectHarmlessText("font-family=\"Nowhere\"");
+    std::string families = "font-family=\"";
+    for (int i = 0; i < 10000; ++i) {
+        families += "Nowhere " + std::to_string(i) + ",";
+    }
+    ExpectHarmlessText(families + "\"");
+    ExpectHarmlessText("", "");
+    for (const char* piece : {"a", "word ", "\u0301", "\u202e", "\u05d0 a ", "\u200d", "&#x7f;&#x85;", "\ufffd"}) {
+        ExpectHarmlessText("", Repeated(piece, 1000));
+    }
+    ExpectHarmlessText("font-size=\"1\"", Repeated("A megabyte. ", 90000));
+}
+
+TEST_F(HostileDocumentTest, WhatIsNoXmlTextIsAnErrorWithItsPlace) {
+    for (const char* content : {"&#1;", "&#0;", "\x01", "&#xFFFE;", "\xff", "\xed\xa0\x80"}) {
+        const RunResult run = Run({"-o", "out.pdf"}, AroundText("", content));
+        EXPECT_EQ(run.status, 1) << content;
+        EXPECT_TRUE(run.err.starts_with("zamprint: standard input:1:")) << run.err;
+        EXPECT_TRUE(List().empty()) << content;
+    }
+}
+
+TEST_F(HostileDocumentTest, ManyTextsOfFamiliesThatAreNowherePrint) {
+    const std::string one = R"(<text y="9" font-family="Nowhere, 'No Where', Nohow">a</text>)";
+    const std::string root = R"(<svg width="100" height="100">)";
+    ExpectOrderly(root + Repeated(one, 10000) + "</svg>");
+}
+
+// The program itself is linked with what reads font files, but not with what lays out text.
+TEST_F(HostileDocumentTest, OnlyVisibleTextOpensTheFonts) {
+    const auto opensFonts = [this](const std::string& content, const char* format) {
+        const std::string document = "<svg width=\"9\" height=\"9\"><title>t</title>" + content + "</svg>";
+        const RunResult run = Shell(std::string("LD_DEBUG=files \"$Z\" -f ") + format, document);
+        EXPECT_EQ(run.status, 0);
+        EXPECT_TRUE(Contains(run.err, "libcairo")); // the linker does tell
+        EXPECT_EQ(Contains(run.err, "ZAMPrintFonts"), Contains(run.err, "libpango")) << content;
+        return Contains(run.err, "libpango");
+    };
+    for (const char* format : {"pdf", "png", "json"}) {
+        EXPECT_FALSE(opensFonts("<g font-size=\"3\"><rect width=\"5\" height=\"5\"/></g>", format));
+        EXPECT_FALSE(opensFonts("<text> </text><text fill=\"none\">unseen</text>", format));
+        EXPECT_TRUE(opensFonts("<text font-family=\"serif\">seen</text>", format));
+    }
 }

@@ -66,13 +66,15 @@ TEST_F(PagesTest, TheDrawingIsCentredOnItsBackground) {
 }
 
 TEST_F(PagesTest, EachDrawingIsAPageOfItsOwnSize) {
-    const std::string book = "<book><title> A  short\n book </title><svg width=\"90\" height=\"45\"/>"
-                             "<note/><SVG viewBox=\"0 0 180 90\"/><svg width=\"1in\" height=\"3in\"/></book>";
+    const std::string book =
+        "<book><title> A  short\n book </title><desc>Of\n three pages</desc><svg width=\"90\" height=\"45\"/>"
+        "<note/><SVG viewBox=\"0 0 180 90\"/><svg width=\"1in\" height=\"3in\"/></book>";
     const RunResult natural = Run({}, book);
     EXPECT_EQ(natural.status, 0) << natural.err;
     const std::string info = CheckPdf(natural.out);
-    for (const char* line : {"Title:           A short book\n", "Pages:           3\n", "Page    1 size:  72 x 36 pts",
-                             "Page    2 size:  144 x 72 pts", "Page    3 size:  72 x 216 pts"}) {
+    for (const char* line :
+         {"Title:           A short book\n", "Subject:         Of three pages\n", "Pages:           3\n",
+          "Page    1 size:  72 x 36 pts", "Page    2 size:  144 x 72 pts", "Page    3 size:  72 x 216 pts"}) {
         EXPECT_TRUE(Contains(info, line)) << line << "\n" << info;
     }
     const std::string wide = CheckPdf(Run({"-w", "900", "-d", "300"}, book).out);

@@ -61,7 +61,7 @@ void Document::Parse(const std::string& content) {
     }
 }
 
-std::string Document::GetTitle() const {
-    const std::vector<ZAMLightXmlElement> titles = FindChildren(_Root, "title");
-    return titles.empty() ? std::string() : CollapseWhiteSpace(titles.front().GetTextContent().CastToCharPtr());
+std::string Document::GetTextOf(std::string_view name) const {
+    const std::vector<ZAMLightXmlElement> found = FindChildren(_Root, name);
+    return found.empty() ? std::string() : CollapseWhiteSpace(found.front().GetTextContent().CastToCharPtr());
 }

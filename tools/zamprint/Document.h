@@ -21,9 +21,12 @@ public:
     /// The root when it is an svg element, else those of its children that are one; each is a page.
     [[nodiscard]] const std::vector<ZAMLightXmlElement>& GetDrawings() const { return _Drawings; }
     /// The text of the root's title, runs of white space made one blank each; empty without a title.
-    [[nodiscard]] std::string GetTitle() const;
+    [[nodiscard]] std::string GetTitle() const { return GetTextOf("title"); }
+    /// Likewise of the `desc` element.
+    [[nodiscard]] std::string GetDescription() const { return GetTextOf("desc"); }
 
 private:
+    [[nodiscard]] std::string GetTextOf(std::string_view name) const;
     void Parse(const std::string& content);
 
     std::string _Name;

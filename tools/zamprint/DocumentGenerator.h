@@ -27,6 +27,10 @@ public:
                   const ZAMPrintPen* pen) override {
         _Generator.DrawPath(path, toPage, fill, pen);
     }
+    void DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
+                  const ZAMPrintPen* pen) override {
+        _Generator.DrawText(layout, toPage, fill, pen);
+    }
     [[nodiscard]] std::string GetError() const override { return _Generator.GetError(); }
 
 private:

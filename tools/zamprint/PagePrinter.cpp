@@ -41,6 +41,7 @@ bool PagePrinter::Print(const Document& document) {
     parameters.resolution = _Options.resolution;
     parameters.background = _Options.background;
     parameters.metadata.title = document.GetTitle();
+    parameters.metadata.subject = document.GetDescription();
     parameters.metadata.creationTime = ReadSourceDateEpoch();
 
     const auto& drawings = document.GetDrawings();

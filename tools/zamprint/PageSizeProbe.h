@@ -21,6 +21,8 @@ public:
     void AddLink(const ZAMMathBox2D& /*area*/, std::string_view /*address*/) override {}
     void DrawPath(const ZAMPrintPath& /*path*/, const ZAMMathAffine2D& /*toPage*/, const ZAMPrintFill* /*fill*/,
                   const ZAMPrintPen* /*pen*/) override {}
+    void DrawText(const ZAMTextLayout& /*layout*/, const ZAMMathAffine2D& /*toPage*/, const ZAMPrintFill* /*fill*/,
+                  const ZAMPrintPen* /*pen*/) override {}
     [[nodiscard]] std::string GetError() const override { return {}; }
 
 private:
