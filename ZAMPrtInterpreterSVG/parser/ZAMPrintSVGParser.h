@@ -154,6 +154,7 @@ private:
     void ReadFillPaint(ZAMUnicodeString& text, PendingPaint& pending);
 
     int GetColor(ZAMUnicodeString& text, unsigned int& index);
+    ZAMPrtColourTable* GetColourTable(); // of the image, made when it is missing; null when memory is out
 
     // Lengths and coordinates, of a text and of an element's attribute.
     int GetLength(std::string_view text, double& result) const;

@@ -51,18 +51,21 @@ int ZAMPrintSVGParser::GetColor(ZAMUnicodeString& text, unsigned int& index) {
     if (text.IsEmpty() || !_Image) {
         return -1;
     }
-    if (_Image->GetColourTable() == nullptr) {
-        const auto table = ZAMNew<ZAMPrtColourTable>();
-        if (!table) {
-            return -1;
-        }
-        _Image->SetColourTable(table.Get());
-        unsigned int black = 0;
-        table->AddColour(0, 0, 0, black);
-    }
     ZAMPrintSVGColorParser parser;
-    parser.SetColorTable(_Image->GetColourTable());
+    parser.SetColorTable(GetColourTable());
     return parser.ParseColorString(text, index);
+}
+
+// A fresh table begins with black, whatever colour is asked for.
+ZAMPrtColourTable* ZAMPrintSVGParser::GetColourTable() {
+    if (_Image->GetColourTable() == nullptr) {
+        if (const auto table = ZAMNew<ZAMPrtColourTable>()) {
+            unsigned int black = 0;
+            table->AddColour(0, 0, 0, black);
+            _Image->SetColourTable(table.Get());
+        }
+    }
+    return _Image->GetColourTable();
 }
 
 void ZAMPrintSVGParser::ReadOpacity(std::string_view value, PendingPaint& pending) {

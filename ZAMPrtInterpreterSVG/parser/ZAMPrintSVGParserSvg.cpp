@@ -39,14 +39,7 @@ int ZAMPrintSVGParser::BeginImage(ZAMPrtModel& model) {
         return -1;
     }
     model.AddImage(_Image.Get());
-    const auto table = ZAMNew<ZAMPrtColourTable>();
-    if (!table) {
-        return -1;
-    }
-    _Image->SetColourTable(table.Get());
-    unsigned int black = 0;
-    table->AddColour(0, 0, 0, black);
-    return 1;
+    return GetColourTable() != nullptr ? 1 : -1;
 }
 
 // The viewBox sets the origin and the size of the image. It never scales it: the scale is the size divided by itself,
