@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "framework/fonts/ZAMFontsGlyphTracer.h"
 
+#include "framework/fonts/ZAMFontsVariations.h"
+
 #include FT_OUTLINE_H
-#include FT_MULTIPLE_MASTERS_H
-#include <charconv>
-#include <string_view>
-#include <vector>
 
 namespace {
 
@@ -65,42 +63,6 @@ struct Decomposer {
     }
 };
 
-// "wght=250,wdth=80" onto the coordinates that the face has now.
-void SetAxis(const FT_MM_Var& axes, std::vector<FT_Fixed>& coordinates, std::string_view setting) {
-    double value = 0.0;
-    if (setting.size() < 6 || setting[4] != '=' ||
-        std::from_chars(setting.data() + 5, setting.data() + setting.size(), value).ec != std::errc() ||
-        !(value > -32768.0 && value < 32768.0)) {
-        return;
-    }
-    FT_ULong tag = 0;
-    for (const char letter : setting.substr(0, 4)) {
-        tag = tag << 8U | static_cast<unsigned char>(letter);
-    }
-    for (FT_UInt i = 0; i < axes.num_axis; ++i) {
-        if (axes.axis[i].tag == tag) {
-            coordinates[i] = static_cast<FT_Fixed>(value * 65536.0);
-        }
-    }
-}
-
-void ApplyVariations(FT_Library library, FT_Face face, std::string_view variations) {
-    FT_MM_Var* axes = nullptr;
-    if (variations.empty() || FT_Get_MM_Var(face, &axes) != 0) {
-        return;
-    }
-    std::vector<FT_Fixed> coordinates(axes->num_axis);
-    if (FT_Get_Var_Design_Coordinates(face, axes->num_axis, coordinates.data()) == 0) {
-        while (!variations.empty()) {
-            const std::size_t comma = std::min(variations.find(','), variations.size());
-            SetAxis(*axes, coordinates, variations.substr(0, comma));
-            variations.remove_prefix(std::min(comma + 1, variations.size()));
-        }
-        FT_Set_Var_Design_Coordinates(face, axes->num_axis, coordinates.data());
-    }
-    FT_Done_MM_Var(library, axes);
-}
-
 } // namespace
 
 ZAMFontsGlyphTracer::ZAMFontsGlyphTracer() {
@@ -151,7 +113,7 @@ FT_Face ZAMFontsGlyphTracer::OpenFace(const ZAMFontsOutlineRequest& request) {
     if (FT_New_Face(_Library, request.file, request.faceIndex, &face) != 0) {
         return nullptr;
     }
-    ApplyVariations(_Library, face, request.variations);
+    ZAMFontsVariations::Apply(_Library, face, request.variations);
     return face;
 }
 
