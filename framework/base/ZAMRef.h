@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "framework/base/ZAMAllocationBudget.h"
+
 #include <concepts>
 #include <new>
 #include <utility>
@@ -50,8 +52,12 @@ private:
     T* _Object = nullptr;
 };
 
-/// The allocator of reference-counted objects: a new T with its first reference, or null when memory is out.
+/// The allocator of reference-counted objects: a new T with its first reference, or null when memory is out or the
+/// thread's ZAMAllocationBudget is spent.
 template <class T, class... Arguments> [[nodiscard]] ZAMRef<T> ZAMNew(Arguments&&... arguments) noexcept {
+    if (ZAMAllocationBudget::IsCurrentSpent()) {
+        return {};
+    }
     try {
         return ZAMRef<T>::Adopt(new T(std::forward<Arguments>(arguments)...));
     } catch (const std::bad_alloc&) {
