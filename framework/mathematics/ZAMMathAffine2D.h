@@ -2,6 +2,7 @@
 #pragma once
 
 #include "framework/mathematics/ZAMMath2x2Matrix.h"
+#include "framework/mathematics/ZAMMathBox2D.h"
 #include "framework/mathematics/ZAMMathPoint2D.h"
 #include "framework/mathematics/ZAMMathVector2D.h"
 
@@ -24,6 +25,14 @@ struct ZAMMathAffine2D {
     /// The map without its translation: how offsets are carried over.
     [[nodiscard]] ZAMMathVector2D Apply(const ZAMMathVector2D& offset) const {
         return {a * offset.x + c * offset.y, b * offset.x + d * offset.y};
+    }
+    /// The box of the mapped corners; an empty box stays empty.
+    [[nodiscard]] ZAMMathBox2D Apply(const ZAMMathBox2D& box) const {
+        ZAMMathBox2D mapped;
+        for (const ZAMMathPoint2D& corner : box.Corners()) {
+            mapped.Add(Apply(corner));
+        }
+        return mapped;
     }
     [[nodiscard]] ZAMMath2x2Matrix Linear() const { return {a, c, b, d}; }
     [[nodiscard]] bool IsFinite() const {

@@ -2,6 +2,7 @@
 #pragma once
 
 // Every element class of the model, for those who walk whole models.
+#include "framework/model/ZAMPrtBitmapImageElt.h"
 #include "framework/model/ZAMPrtCircleElt.h"
 #include "framework/model/ZAMPrtClosedFigureElt.h"
 #include "framework/model/ZAMPrtClosedFigureRegionElt.h"
@@ -11,9 +12,11 @@
 #include "framework/model/ZAMPrtImageElt.h"
 #include "framework/model/ZAMPrtLineElt.h"
 #include "framework/model/ZAMPrtModel.h"
+#include "framework/model/ZAMPrtPatternElt.h"
 #include "framework/model/ZAMPrtPolyCubicBezierElt.h"
 #include "framework/model/ZAMPrtPolygonElt.h"
 #include "framework/model/ZAMPrtPolylineElt.h"
 #include "framework/model/ZAMPrtPolyQuadraticBezierElt.h"
 #include "framework/model/ZAMPrtRectangleElt.h"
+#include "framework/model/ZAMPrtSymbolElt.h"
 #include "framework/model/ZAMPrtTextElt.h"

@@ -5,20 +5,43 @@
 
 namespace {
 
-// True when the subtree neither holds `forbidden` nor is higher than `height`: one walk finds both.
-bool IsFit(const ZAMPrtGraphicPrimitiveElt& element, const ZAMPrtGraphicPrimitiveElt& forbidden, int height) {
-    if (&element == &forbidden || height < 1) {
-        return false;
+// Walks a subtree that is to become a child. Shared parts are walked as often as they would be drawn, so the walk ends
+// when the cost exceeds what the budget has left.
+class Inspection {
+public:
+    Inspection(const ZAMPrtGraphicPrimitiveElt& forbidden, bool isReuse) : _Forbidden(forbidden), _IsReuse(isReuse) {}
+
+    // True when the subtree neither holds the forbidden element nor is higher than `height`.
+    bool Passes(const ZAMPrtGraphicPrimitiveElt& element, int height) {
+        if (&element == &_Forbidden || height < 1) {
+            return false;
+        }
+        if (_IsReuse && (_Cost += element.GetCost()) > _Left) {
+            return true;
+        }
+        return std::ranges::all_of(element.GetChildren(),
+                                   [&](const auto& child) { return Passes(*child, height - 1); });
     }
-    return std::ranges::all_of(element.GetChildren(),
-                               [&](const auto& child) { return IsFit(*child, forbidden, height - 1); });
-}
+
+    [[nodiscard]] std::size_t GetCost() const { return _Cost; }
+
+private:
+    const ZAMPrtGraphicPrimitiveElt& _Forbidden;
+    bool _IsReuse;
+    std::size_t _Cost = 0;
+    std::size_t _Left = ZAMAllocationBudget::GetLeft();
+};
 
 } // namespace
 
 void ZAMPrtChildren::Add(const ZAMPrtGraphicPrimitiveElt& owner, ZAMPrtGraphicPrimitiveElt* child) {
-    if (child != nullptr && IsFit(*child, owner, kZAMPrtMaximumHeight)) {
+    if (child == nullptr) {
+        return;
+    }
+    Inspection inspection(owner, child->_WasAttached);
+    if (inspection.Passes(*child, kZAMPrtMaximumHeight) && ZAMAllocationBudget::Spend(inspection.GetCost())) {
         _Children.push_back(ZAMRef<ZAMPrtGraphicPrimitiveElt>::Share(child));
+        child->_WasAttached = true;
     }
 }
 
@@ -34,6 +57,7 @@ void ZAMPrtChildren::Own() {
     copies.reserve(_Children.size());
     for (const auto& child : _Children) {
         if (auto copy = child->Duplicate()) {
+            copy->_WasAttached = true;
             copies.push_back(std::move(copy));
         }
     }

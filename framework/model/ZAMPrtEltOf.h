@@ -31,6 +31,9 @@ public:
     [[nodiscard]] std::string_view IsA() const override { return Self::kClassName; }
 
     [[nodiscard]] ZAMRef<ZAMPrtGraphicPrimitiveElt> Duplicate() const override {
+        if (!ZAMAllocationBudget::Spend(this->GetCost())) {
+            return {};
+        }
         const ZAMRef<Self> copy = ZAMNew<Self>(static_cast<const Self&>(*this));
         try {
             if (copy) {

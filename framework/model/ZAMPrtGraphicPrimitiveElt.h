@@ -7,6 +7,7 @@
 #include "framework/base/ZAMUnicodeString.h"
 #include "framework/model/ZAMPrtTransformAttributes.h"
 
+#include <cstddef>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -35,8 +36,10 @@ public:
     /// Elements are not created by name: always null.
     static ZAMPrtGraphicPrimitiveElt* CreateItself() { return nullptr; }
 
-    /// A deep copy, or null when memory is out.
+    /// A deep copy, or null when memory is out. Costs the thread's ZAMAllocationBudget what the copy costs.
     [[nodiscard]] virtual ZAMRef<ZAMPrtGraphicPrimitiveElt> Duplicate() const = 0;
+    /// What it takes to draw the element, without its children: 1, and more for long lists of points and long texts.
+    [[nodiscard]] virtual std::size_t GetCost() const { return 1; }
 
     /// The element's children; valid until they change, empty for an element that is no container.
     [[nodiscard]] virtual ZAMPrtChildSpan GetChildren() const { return {}; }
@@ -62,6 +65,8 @@ protected:
     virtual void OwnChildren() {}
 
 private:
+    friend class ZAMPrtChildren;
+
     // Few elements have one, so that they stay out of the others.
     struct RareTexts {
         ZAMUnicodeString title;
@@ -73,6 +78,7 @@ private:
     ZAMPrtTransformAttributes _Transform;
     ZAMUnicodeString _Id;
     std::unique_ptr<RareTexts> _Texts;
+    bool _WasAttached = false; // a container took it as a child once
 };
 
 /// The element as a `T`, or null when its class is not exactly `T`.

@@ -98,6 +98,29 @@ void WriteGeometry(ZAMJsonWriter& json, const ZAMPrtTextElt& text) {
     }
 }
 
+void WriteFrame(ZAMJsonWriter& json, const ZAMMathPoint2D& origin, const ZAMMathVector2D& size) {
+    WritePoint(json, "origin", origin);
+    json.Member("size", {size.x, size.y});
+}
+
+template <class Base> void WriteGeometry(ZAMJsonWriter& json, const ZAMPrtWithFrame<Base>& element) {
+    WriteFrame(json, element.GetOrigin(), element.GetSize());
+}
+
+void WritePixels(ZAMJsonWriter& json, const ZAMPixelImage* image) {
+    if (image == nullptr) {
+        json.Key("pixels");
+        json.Null();
+    } else {
+        json.Member("pixels", {static_cast<double>(image->GetWidth()), static_cast<double>(image->GetHeight())});
+    }
+}
+
+void WriteGeometry(ZAMJsonWriter& json, const ZAMPrtBitmapImageElt& bitmap) {
+    WriteFrame(json, bitmap.GetOrigin(), bitmap.GetSize());
+    WritePixels(json, bitmap.GetPixelImage());
+}
+
 void WriteStroke(ZAMJsonWriter& json, const ZAMPrtStrokeAttributes& stroke) {
     json.Key("stroke");
     json.BeginObject();
@@ -132,6 +155,15 @@ void WriteFill(ZAMJsonWriter& json, const ZAMPrtFillAttributes& fill) {
     json.Member("transparency", fill.GetFillColourTransparency());
     json.Member("rule", fill.GetFillRule());
     json.Member("style", fill.GetFillStyle());
+    if (const ZAMPrtFillPattern* pattern = fill.GetPattern()) {
+        json.Key("pattern");
+        json.BeginObject();
+        WritePixels(json, pattern->image.Get());
+        json.Member("size", {pattern->size.x, pattern->size.y});
+        json.Member("step", {pattern->step.x, pattern->step.y});
+        WritePoint(json, "refPoint", pattern->refPoint);
+        json.EndObject();
+    }
     json.EndObject();
 }
 
@@ -183,7 +215,8 @@ void WriteChildren(ZAMJsonWriter& json, const ZAMPrtGraphicPrimitiveElt& element
 using WrittenElements =
     ZAMPrtTypeList<ZAMPrtGroupElt, ZAMPrtRectangleElt, ZAMPrtCircleElt, ZAMPrtEllipseElt, ZAMPrtLineElt,
                    ZAMPrtPolylineElt, ZAMPrtPolygonElt, ZAMPrtPolyCubicBezierElt, ZAMPrtPolyQuadraticBezierElt,
-                   ZAMPrtEllipticalArcElt, ZAMPrtClosedFigureElt, ZAMPrtClosedFigureRegionElt, ZAMPrtTextElt>;
+                   ZAMPrtEllipticalArcElt, ZAMPrtClosedFigureElt, ZAMPrtClosedFigureRegionElt, ZAMPrtTextElt,
+                   ZAMPrtBitmapImageElt, ZAMPrtSymbolElt, ZAMPrtPatternElt>;
 
 void WriteElement(ZAMJsonWriter& json, const ZAMPrtGraphicPrimitiveElt& element) {
     json.BeginObject();
@@ -218,8 +251,7 @@ void WriteColours(ZAMJsonWriter& json, const ZAMPrtColourTable* table) {
 void WriteImage(ZAMJsonWriter& json, const ZAMPrtImageElt& image) {
     json.BeginObject();
     WriteHead(json, image);
-    WritePoint(json, "origin", image.GetOrigin());
-    json.Member("size", {image.GetSize().x, image.GetSize().y});
+    WriteFrame(json, image.GetOrigin(), image.GetSize());
     const ZAMMath2x2Matrix& m = image.GetMatrix();
     json.Member("matrix", {m.a, m.b, m.c, m.d});
     WriteColours(json, image.GetColourTable());

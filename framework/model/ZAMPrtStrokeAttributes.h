@@ -40,6 +40,8 @@ public:
     /// pattern. A list with a negative, non-finite or only zero entries draws solid.
     void SetStrokeTypePattern(const float* lengths, unsigned char count);
     [[nodiscard]] std::span<const float> GetStrokeTypePattern() const;
+    /// Takes over the pattern, or the lack of one, of another stroke.
+    void SetStrokeTypePatternOf(const ZAMPrtStrokeAttributes& other) { _Pattern = other._Pattern; }
 
     bool operator==(const ZAMPrtStrokeAttributes& other) const;
 

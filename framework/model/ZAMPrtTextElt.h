@@ -36,6 +36,11 @@ public:
         _ViewBox = std::make_shared<const ViewBox>(ViewBox{x, y, width, height});
     }
 
+    [[nodiscard]] std::size_t GetCost() const override {
+        constexpr std::size_t kBytesForOne = 256;
+        return 1 + GetText().size() / kBytesForOne;
+    }
+
 private:
     ZAMPrtTextAttributes _TextAttributes;
     ZAMMathPoint2D _Position;

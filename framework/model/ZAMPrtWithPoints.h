@@ -24,6 +24,11 @@ public:
         return _Points ? std::span<const ZAMMathPoint2D>(*_Points) : std::span<const ZAMMathPoint2D>();
     }
 
+    [[nodiscard]] std::size_t GetCost() const override {
+        constexpr std::size_t kPointsForOne = 32;
+        return 1 + GetPoints().size() / kPointsForOne;
+    }
+
 private:
     std::shared_ptr<const std::vector<ZAMMathPoint2D>> _Points;
 };
