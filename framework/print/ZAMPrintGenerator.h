@@ -7,6 +7,7 @@
 #include "framework/print/ZAMPrintPaint.h"
 #include "framework/print/ZAMPrintParameters.h"
 #include "framework/print/ZAMPrintPath.h"
+#include "framework/visualisation/ZAMPixelImage.h"
 #include "framework/visualisation/ZAMTextLayout.h"
 
 #include <limits>
@@ -44,6 +45,11 @@ public:
 
     /// The area (page coordinates, upright) leads to `address` when it is clicked, where the output can do that.
     virtual void AddLink(const ZAMMathBox2D& area, std::string_view address) = 0;
+    /// The area leads to the destination of that name when it is clicked, where the output can do that. The destination
+    /// may be added later, on this page or another; a link whose destination is never added leads nowhere.
+    virtual void AddInternalLink(const ZAMMathBox2D& area, std::string_view destination) = 0;
+    /// Names a place on the page (page coordinates) for links. The first of several with one name counts.
+    virtual void AddDestination(std::string_view name, const ZAMMathPoint2D& place) = 0;
 
     /// Fills the path (unless `fill` is null), then strokes it (unless `pen` is null).
     virtual void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
@@ -53,6 +59,10 @@ public:
     /// relative to its anchor point, to the page. Where the output can, the text stays text.
     virtual void DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                           const ZAMPrintPen* pen) = 0;
+
+    /// Draws a picture. The map carries the unit square to the page: 0,0 is the picture's lower left corner and 1,1 its
+    /// upper right. The image may be held on to until the document ends.
+    virtual void DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) = 0;
 
     /// What went wrong, in words for a person; empty when nothing did.
     [[nodiscard]] virtual std::string GetError() const = 0;

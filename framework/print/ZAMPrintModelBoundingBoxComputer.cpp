@@ -2,6 +2,7 @@
 #include "framework/print/ZAMPrintModelBoundingBoxComputer.h"
 
 #include "framework/print/ZAMPrintOutline.h"
+#include "framework/print/ZAMPrintSymbolFrame.h"
 #include "framework/print/ZAMPrintTextPlacement.h"
 
 #include <algorithm>
@@ -86,14 +87,9 @@ private:
     ZAMMathPoint2D _Current;
 };
 
-void AddText(ZAMMathBox2D& box, const ZAMPrtTextElt& text, const ZAMMathAffine2D& map) {
-    const ZAMMathBox2D extents = ZAMPrintLayOut(text).GetExtents();
-    if (extents.IsEmpty()) {
-        return;
-    }
-    const ZAMMathAffine2D toBox = map * ZAMPrintTextPlacement(text);
-    for (const ZAMMathPoint2D& corner : extents.Corners()) {
-        box.Add(toBox.Apply(corner));
+void AddArea(ZAMMathBox2D& box, const ZAMMathBox2D& area, const ZAMMathAffine2D& map) {
+    for (const ZAMMathPoint2D& corner : area.Corners()) {
+        box.Add(map.Apply(corner));
     }
 }
 
@@ -112,11 +108,22 @@ void AddElement(ZAMMathBox2D& box, const ZAMPrtGraphicPrimitiveElt& element, con
         return;
     }
     if (const auto* text = ZAMPrtCast<ZAMPrtTextElt>(pointer)) {
-        AddText(box, *text, map);
+        AddArea(box, ZAMPrintLayOut(*text).GetExtents(), map * ZAMPrintTextPlacement(*text));
+        return;
+    }
+    if (const auto* bitmap = ZAMPrtCast<ZAMPrtBitmapImageElt>(pointer)) {
+        AddArea(box, {0.0, 0.0, 1.0, 1.0}, map * bitmap->GetPlacement());
+        return;
+    }
+    const auto* symbol = ZAMPrtCast<ZAMPrtSymbolElt>(pointer);
+    if (symbol != nullptr && symbol->HasSize()) {
+        AddArea(box, ZAMPrintSymbolArea(*symbol), map);
         return;
     }
     for (const auto& child : element.GetChildren()) {
-        AddElement(box, *child, map * child->GetTransformAttributes().GetMatrix());
+        if (ZAMPrtCast<ZAMPrtPatternElt>(child.Get()) == nullptr) {
+            AddElement(box, *child, map * child->GetTransformAttributes().GetMatrix());
+        }
     }
 }
 

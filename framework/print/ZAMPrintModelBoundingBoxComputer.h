@@ -7,7 +7,8 @@
 #include "framework/model/ZAMPrtGraphicPrimitiveElt.h"
 
 /// Measures elements: the exact box of their geometry, curve extrema included, stroke widths not. Every element counts,
-/// whatever its draw style; points that are not finite are left out.
+/// whatever its draw style and a bitmap whatever its pixels; a symbol with a size is the area that it shows. A pattern
+/// among the content counts nothing. Points that are not finite are left out.
 class ZAM_EXPORT ZAMPrintModelBoundingBoxComputer {
 public:
     /// The box of the element's content in the element's own coordinates: the transforms of its descendants count, its

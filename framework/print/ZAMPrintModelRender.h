@@ -5,6 +5,12 @@
 #include "framework/model/ZAMPrtModel.h"
 #include "framework/print/ZAMPrintGenerator.h"
 #include "framework/print/ZAMPrintParameters.h"
+#include "framework/print/ZAMPrintPlacement.h"
+
+#include <cstddef>
+#include <vector>
+
+class ZAMPrintDestinations;
 
 /// Draws a model: resolves what its elements hold into the marks of a generator. All three are borrowed and must
 /// outlive the render; the model is only read, so several renders may draw it at once.
@@ -19,7 +25,8 @@ public:
     int Draw();
 
 private:
-    int DrawImage(const ZAMPrtImageElt& image);
+    [[nodiscard]] std::vector<ZAMPrintPlacement> PlaceImages() const;
+    int DrawPage(std::size_t page, const ZAMPrintPlacement& placement, const ZAMPrintDestinations& destinations);
 
     const ZAMPrtModel* _Model;
     ZAMPrintGenerator* _Generator;

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "framework/print/ZAMPrintPageRender.h"
 
+#include "framework/print/ZAMPrintClipScope.h"
 #include "framework/print/ZAMPrintModelBoundingBoxComputer.h"
 #include "framework/print/ZAMPrintOutline.h"
+#include "framework/print/ZAMPrintSymbolFrame.h"
 #include "framework/print/ZAMPrintTextPlacement.h"
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -64,6 +67,11 @@ bool Fills(ZAMPrtDrawStyle style) {
     return style == ZAMPrtDrawStyle::Fill || style == ZAMPrtDrawStyle::StrokeAndFill;
 }
 
+bool IsUsable(const ZAMPrtFillPattern* pattern) {
+    return pattern != nullptr && pattern->image && pattern->size.IsPositive() && pattern->step.IsPositive() &&
+           pattern->refPoint.IsFinite();
+}
+
 ZAMPrintLineAttribute OneOf(ZAMPrintLineAttribute code, ZAMPrintLineAttribute first, ZAMPrintLineAttribute last) {
     return code >= first && code <= last ? code : first;
 }
@@ -97,6 +105,12 @@ void ZAMPrintPageRender::DrawElement(const ZAMPrtGraphicPrimitiveElt& element, c
         PaintPath(*figure, toPage);
     } else if (const auto* text = ZAMPrtCast<ZAMPrtTextElt>(pointer)) {
         DrawText(*text, toPage);
+    } else if (const auto* bitmap = ZAMPrtCast<ZAMPrtBitmapImageElt>(pointer)) {
+        DrawBitmap(*bitmap, toPage);
+    } else if (const auto* symbol = ZAMPrtCast<ZAMPrtSymbolElt>(pointer)) {
+        DrawSymbol(*symbol, toPage);
+    } else if (ZAMPrtCast<ZAMPrtPatternElt>(pointer) != nullptr) {
+        // Fills show it.
     } else if (!ZAMPrintShapes::Visit(pointer, drawShape) && !ZAMPrintPieces::Visit(pointer, drawPiece)) {
         DrawChildren(element, toPage);
     }
@@ -109,6 +123,20 @@ void ZAMPrintPageRender::DrawGroup(const ZAMPrtGroupElt& group, const ZAMMathAff
         DrawChildren(group, toPage);
     }
     AddLink(group, toPage);
+}
+
+void ZAMPrintPageRender::DrawSymbol(const ZAMPrtSymbolElt& symbol, const ZAMMathAffine2D& toPage) {
+    std::optional<ZAMPrintClipScope> clip;
+    if (symbol.HasSize()) {
+        clip.emplace(_Generator, ZAMPrintSymbolArea(symbol), toPage);
+    }
+    DrawChildren(symbol, toPage * ZAMPrintSymbolContent(symbol));
+}
+
+void ZAMPrintPageRender::DrawBitmap(const ZAMPrtBitmapImageElt& bitmap, const ZAMMathAffine2D& toPage) {
+    if (bitmap.GetPixelImage() != nullptr && bitmap.GetSize().IsPositive()) {
+        _Generator.DrawImage(ZAMRef<ZAMPixelImage>::Share(bitmap.GetPixelImage()), toPage * bitmap.GetPlacement());
+    }
 }
 
 // Pieces that follow one another with the same stroke are one path; whatever else stands between them is drawn in its
@@ -146,21 +174,39 @@ void ZAMPrintPageRender::DrawOutlines(const ZAMPrtGroupElt& group, const ZAMMath
 }
 
 void ZAMPrintPageRender::AddLink(const ZAMPrtGroupElt& group, const ZAMMathAffine2D& toPage) {
+    if (!group.GetGroupAttributes().HasLinkURI()) {
+        return;
+    }
     const ZAMPrintLinkURI link = group.GetGroupAttributes().GetLinkURI();
-    if (link.GetBaseURL().IsEmpty()) {
+    const bool isInternal = link.GetBaseURL().IsEmpty();
+    const std::string* const destination = isInternal ? _Destinations.FindName(link.GetElementId()) : nullptr;
+    if (isInternal && destination == nullptr) {
         return;
     }
     const ZAMMathBox2D page{0.0, 0.0, _Placement.pageWidth, _Placement.pageHeight};
     const ZAMMathBox2D area = ZAMPrintModelBoundingBoxComputer::BoxOf(group, toPage).Intersection(page);
-    if (!area.IsEmpty()) {
+    if (area.IsEmpty()) {
+        return;
+    }
+    if (isInternal) {
+        _Generator.AddInternalLink(area, *destination);
+    } else {
         _Generator.AddLink(area, link.GetBaseURL());
     }
 }
 
 void ZAMPrintPageRender::DrawText(const ZAMPrtTextElt& text, const ZAMMathAffine2D& toPage) {
-    const Paint paint = PaintOf(text);
+    Paint paint = PaintOf(text);
     if (!paint.Paints()) {
         return;
+    }
+    // A layout's units start at the text's position, those of its pattern where the element's do.
+    ZAMPrtFillPattern pattern;
+    if (paint.fill.pattern != nullptr) {
+        pattern = *paint.fill.pattern;
+        pattern.refPoint.x -= text.GetPosition().x;
+        pattern.refPoint.y -= text.GetPosition().y;
+        paint.fill.pattern = &pattern;
     }
     const ZAMTextLayout layout = ZAMPrintLayOut(text);
     if (!layout.IsEmpty()) {
@@ -203,7 +249,13 @@ bool ZAMPrintPageRender::Resolve(unsigned int index, unsigned char transparency,
 
 bool ZAMPrintPageRender::Resolve(const ZAMPrtFillAttributes& attributes, ZAMPrintFill& fill) const {
     fill.rule = attributes.GetFillRule() == ZAMPrtFillRule::EvenOdd ? ZAMPrtFillRule::EvenOdd : ZAMPrtFillRule::NonZero;
-    return Resolve(attributes.GetFillColourIndex(), attributes.GetFillColourTransparency(), fill.colour);
+    const unsigned char transparency = attributes.GetFillColourTransparency();
+    if (attributes.GetFillStyle() == ZAMPrtFillStyle::Pattern && IsUsable(attributes.GetPattern())) {
+        fill.pattern = attributes.GetPattern();
+        fill.colour.alpha = transparency;
+        return transparency > 0;
+    }
+    return Resolve(attributes.GetFillColourIndex(), transparency, fill.colour);
 }
 
 bool ZAMPrintPageRender::Resolve(const ZAMPrtStrokeAttributes& attributes, ZAMPrintPen& pen) const {

@@ -4,6 +4,7 @@
 #include "framework/model/ZAMPrtAllElements.h"
 #include "framework/model/ZAMPrtFillAttributes.h"
 #include "framework/model/ZAMPrtStrokeAttributes.h"
+#include "framework/print/ZAMPrintDestinations.h"
 #include "framework/print/ZAMPrintGenerator.h"
 #include "framework/print/ZAMPrintPlacement.h"
 
@@ -12,8 +13,10 @@
 /// Draws what one image element holds onto the page that the generator has begun.
 class ZAMPrintPageRender {
 public:
-    ZAMPrintPageRender(const ZAMPrtImageElt& image, ZAMPrintGenerator& generator, const ZAMPrintPlacement& placement)
-        : _Image(image), _Generator(generator), _Placement(placement) {}
+    /// All arguments are borrowed.
+    ZAMPrintPageRender(const ZAMPrtImageElt& image, ZAMPrintGenerator& generator, const ZAMPrintPlacement& placement,
+                       const ZAMPrintDestinations& destinations)
+        : _Image(image), _Generator(generator), _Placement(placement), _Destinations(destinations) {}
 
     void Draw() { DrawChildren(_Image, _Placement.toPage); }
 
@@ -21,6 +24,8 @@ private:
     void DrawElement(const ZAMPrtGraphicPrimitiveElt& element, const ZAMMathAffine2D& toPage);
     void DrawChildren(const ZAMPrtGraphicPrimitiveElt& element, const ZAMMathAffine2D& toPage);
     void DrawGroup(const ZAMPrtGroupElt& group, const ZAMMathAffine2D& toPage);
+    void DrawSymbol(const ZAMPrtSymbolElt& symbol, const ZAMMathAffine2D& toPage);
+    void DrawBitmap(const ZAMPrtBitmapImageElt& bitmap, const ZAMMathAffine2D& toPage);
     void DrawOutlines(const ZAMPrtGroupElt& group, const ZAMMathAffine2D& toPage);
     void AddLink(const ZAMPrtGroupElt& group, const ZAMMathAffine2D& toPage);
 
@@ -48,5 +53,6 @@ private:
     const ZAMPrtImageElt& _Image;
     ZAMPrintGenerator& _Generator;
     const ZAMPrintPlacement& _Placement;
+    const ZAMPrintDestinations& _Destinations;
     ZAMPrintPath _Path; // the mark at hand; kept for its memory
 };

@@ -30,14 +30,6 @@ ZAMMathBox2D AreaOf(const ZAMPrtImageElt& image) {
     return HasArea(content) ? content : ZAMMathBox2D{0.0, 0.0, 1.0, 1.0};
 }
 
-ZAMMathBox2D Mapped(const ZAMMathBox2D& area, const ZAMMathAffine2D& map) {
-    ZAMMathBox2D box;
-    for (const ZAMMathPoint2D& corner : area.Corners()) {
-        box.Add(map.Apply(corner));
-    }
-    return box;
-}
-
 struct Paper {
     double width;
     double height;
@@ -79,7 +71,7 @@ ZAMPrintPlacement ZAMPrintPlacement::Of(const ZAMPrtImageElt& image, const ZAMPr
     placement.area = AreaOf(image);
     const ZAMMath2x2Matrix& own = image.GetMatrix();
     ZAMMathAffine2D matrix = own.IsInvertible() ? ZAMMathAffine2D::FromMatrix(own) : ZAMMathAffine2D();
-    ZAMMathBox2D shown = Mapped(placement.area, matrix);
+    ZAMMathBox2D shown = matrix.Apply(placement.area);
     if (!HasArea(shown)) { // flattened or carried beyond all numbers
         matrix = ZAMMathAffine2D();
         shown = placement.area;

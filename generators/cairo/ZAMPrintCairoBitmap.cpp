@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "generators/cairo/ZAMPrintCairoBitmap.h"
 
+#include "generators/cairo/ZAMPrintCairoMap.h"
+
 #include <cmath>
 #include <utility>
 
@@ -12,13 +14,13 @@ ZAMPrintCairoBitmap::ZAMPrintCairoBitmap(cairo_scaled_font_t* font, std::uint32_
     cairo_scaled_font_glyph_extents(font, &shown, 1, &extents);
     _Left = std::floor(extents.x_bearing);
     _Top = std::floor(extents.y_bearing);
-    _Width = std::ceil(extents.x_bearing + extents.width) - _Left;
-    _Height = std::ceil(extents.y_bearing + extents.height) - _Top;
-    if (!(_Width >= 1.0 && _Width <= kLargestSide && _Height >= 1.0 && _Height <= kLargestSide)) {
+    const double width = std::ceil(extents.x_bearing + extents.width) - _Left;
+    const double height = std::ceil(extents.y_bearing + extents.height) - _Top;
+    if (!(width >= 1.0 && width <= kLargestSide && height >= 1.0 && height <= kLargestSide)) {
         return;
     }
     ZAMPrintCairoSurface surface(
-        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(_Width), static_cast<int>(_Height)));
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(width), static_cast<int>(height)));
     const ZAMPrintCairoContext context(cairo_create(surface.get()));
     cairo_set_scaled_font(context.get(), font);
     shown.x = -_Left;
@@ -34,16 +36,9 @@ void ZAMPrintCairoBitmap::Paint(cairo_t* context, const ZAMMathAffine2D& toDevic
         return;
     }
     cairo_save(context);
-    cairo_matrix_t matrix;
-    cairo_matrix_init(&matrix, toDevice.a, toDevice.b, toDevice.c, toDevice.d, toDevice.e, toDevice.f);
+    const cairo_matrix_t matrix = ZAMPrintCairoMap::ToCairo(toDevice);
     cairo_set_matrix(context, &matrix);
-    cairo_rectangle(context, _Left, _Top, _Width, _Height);
-    cairo_clip(context);
-    // In a group of its own the picture is no resource of the page, which would name it again each time.
-    cairo_push_group(context);
     cairo_set_source_surface(context, _Surface.get(), _Left, _Top);
-    cairo_paint(context);
-    cairo_pop_group_to_source(context);
     cairo_paint_with_alpha(context, opacity);
     cairo_restore(context);
 }

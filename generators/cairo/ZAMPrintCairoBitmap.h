@@ -22,6 +22,4 @@ private:
     ZAMPrintCairoSurface _Surface; ///< null when there is nothing to see
     double _Left = 0.0;
     double _Top = 0.0;
-    double _Width = 0.0;
-    double _Height = 0.0;
 };

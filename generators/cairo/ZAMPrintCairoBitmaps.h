@@ -10,8 +10,7 @@
 #include <utility>
 
 /// The glyphs of fonts that hold no outlines but coloured bitmaps: emoji, for a surface that keeps the marks. Cairo
-/// itself would paint them there with one pixel to the unit, and the page of a PDF would name each picture as often as
-/// it is shown, which readers take for damage.
+/// itself would paint them there with one pixel to the unit.
 class ZAMPrintCairoBitmaps {
 public:
     /// Pixels to the em, about as many as the fonts have.

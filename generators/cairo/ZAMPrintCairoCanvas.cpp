@@ -5,7 +5,10 @@
 #include "generators/cairo/ZAMPrintCairoContour.h"
 #include "generators/cairo/ZAMPrintCairoFillCutter.h"
 #include "generators/cairo/ZAMPrintCairoLimits.h"
+#include "generators/cairo/ZAMPrintCairoMap.h"
+#include "generators/cairo/ZAMPrintCairoPicturePainter.h"
 #include "generators/cairo/ZAMPrintCairoStrokeCutter.h"
+#include "generators/cairo/ZAMPrintCairoTiles.h"
 #include "generators/cairo/ZAMPrintCairoWorld.h"
 
 #include <algorithm>
@@ -35,11 +38,8 @@ void Emit(cairo_t* context, const ZAMPrintPath& path) {
     }
 }
 
-/// The two axes of the plane fall on one line, or on none.
-bool IsSingular(const ZAMMathAffine2D& map) {
-    const double largest = std::max({std::abs(map.a), std::abs(map.b), std::abs(map.c), std::abs(map.d)});
-    const ZAMMath2x2Matrix unit{map.a / largest, map.c / largest, map.b / largest, map.d / largest};
-    return !map.IsFinite() || !unit.IsInvertible();
+void SetFillRule(cairo_t* context, ZAMPrtFillRule rule) {
+    cairo_set_fill_rule(context, rule == ZAMPrtFillRule::EvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
 }
 
 ZAMPrintPath MakeRectangle(const ZAMMathBox2D& box) {
@@ -78,8 +78,10 @@ double MeasurePath(const ZAMPrintPath& path, const ZAMPrintCairoPen& pen) {
 
 } // namespace
 
-ZAMPrintCairoCanvas::ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, double width, double height, double scale)
-    : _Context(cairo_create(surface)), _Kind(kind), _Page{0.0, 0.0, width * scale, height * scale}, _Scale(scale) {}
+ZAMPrintCairoCanvas::ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, ZAMPrintCairoPictures& pictures,
+                                         double width, double height, double scale)
+    : _Context(cairo_create(surface)), _Kind(kind), _Pictures(pictures), _Page{0.0, 0.0, width * scale, height * scale},
+      _Scale(scale) {}
 
 void ZAMPrintCairoCanvas::Paint(const ZAMPrintColour& colour) {
     ZAMPrintCairoColour::SetSource(_Context.get(), colour);
@@ -91,7 +93,7 @@ void ZAMPrintCairoCanvas::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine
     cairo_set_antialias(_Context.get(), CAIRO_ANTIALIAS_DEFAULT);
     ++_Clips;
     const ZAMMathAffine2D toDevice = ToDevice(toPage);
-    if (!area.IsEmpty() && !IsSingular(toDevice)) {
+    if (!area.IsEmpty() && !ZAMPrintCairoMap::IsSingular(toDevice)) {
         ClipTo(area, toDevice);
     }
     // Without a path nothing is left open.
@@ -120,20 +122,29 @@ void ZAMPrintCairoCanvas::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine
         stroke.emplace(*pen, toDevice.Linear());
     }
     const bool strokes = stroke && stroke->Paints();
-    if (IsSingular(toDevice) || !(fills || strokes)) {
+    if (ZAMPrintCairoMap::IsSingular(toDevice) || !(fills || strokes)) {
         return;
     }
     _Path.Assign(path, toDevice);
+    // Before the path is the context's: what is drawn for the tiles would add to it.
+    std::vector<ZAMPrintCairoPattern> tiles;
+    if (fills && fill->pattern != nullptr) {
+        tiles = MakeTiles(*fill->pattern, toDevice);
+    }
     _IsMuchWork = IsMuchWork(strokes ? stroke->GetReach() : 0.0);
     cairo_set_antialias(_Context.get(), _IsMuchWork ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT);
     EmitFill();
     if (fills) {
-        Fill(*fill);
+        fill->pattern == nullptr ? Fill(*fill) : FillWithTiles(*fill, tiles);
     }
     if (strokes) {
         Stroke(*stroke);
     }
     cairo_new_path(_Context.get());
+}
+
+void ZAMPrintCairoCanvas::DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) {
+    ZAMPrintCairoPicturePainter(_Context.get(), _Kind, _Page, _Pictures).Draw(image, ToDevice(toPage));
 }
 
 ZAMMathAffine2D ZAMPrintCairoCanvas::ToDevice(const ZAMMathAffine2D& toPage) const {
@@ -175,12 +186,42 @@ void ZAMPrintCairoCanvas::EmitFill() {
          _Path.IsNear() ? _Path.GetPath() : ZAMPrintCairoFillCutter::Cut(_Path.GetPath(), GetView(0.0)));
 }
 
-/// The path stays: of a fill and a stroke of one path the PDF makes one operator.
+/// The paint of a fill of the path.
+std::vector<ZAMPrintCairoPattern> ZAMPrintCairoCanvas::MakeTiles(const ZAMPrtFillPattern& pattern,
+                                                                 const ZAMMathAffine2D& toDevice) {
+    ZAMMathBox2D clip;
+    cairo_clip_extents(_Context.get(), &clip.xMin, &clip.yMin, &clip.xMax, &clip.yMax);
+    ZAMMathBox2D reach;
+    for (const ZAMMathPoint2D& point : _Path.GetPath().GetPoints()) {
+        reach.Add(point);
+    }
+    const ZAMMathBox2D shown = reach.Intersection(clip).Intersection(_Page);
+    if (!(shown.Width() > 0.0 && shown.Height() > 0.0)) {
+        return {};
+    }
+    const ZAMMathBox2D area{std::floor(shown.xMin), std::floor(shown.yMin), std::ceil(shown.xMax),
+                            std::ceil(shown.yMax)};
+    return ZAMPrintCairoTiles(*this, _Pictures, pattern, toDevice, area).MakeSources();
+}
+
+// The path stays: of a fill and a stroke of one path the PDF makes one operator.
+
 void ZAMPrintCairoCanvas::Fill(const ZAMPrintFill& fill) {
+    SetFillRule(_Context.get(), fill.rule);
     ZAMPrintCairoColour::SetSource(_Context.get(), fill.colour);
-    cairo_set_fill_rule(_Context.get(),
-                        fill.rule == ZAMPrtFillRule::EvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
     cairo_fill_preserve(_Context.get());
+}
+
+void ZAMPrintCairoCanvas::FillWithTiles(const ZAMPrintFill& fill, const std::vector<ZAMPrintCairoPattern>& tiles) {
+    cairo_t* context = _Context.get();
+    cairo_save(context);
+    SetFillRule(context, fill.rule);
+    cairo_clip_preserve(context);
+    for (const ZAMPrintCairoPattern& source : tiles) {
+        cairo_set_source(context, source.get());
+        cairo_paint_with_alpha(context, fill.colour.alpha / 255.0);
+    }
+    cairo_restore(context);
 }
 
 void ZAMPrintCairoCanvas::Stroke(ZAMPrintCairoPen& pen) {

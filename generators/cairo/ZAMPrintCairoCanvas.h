@@ -5,11 +5,15 @@
 #include "framework/mathematics/ZAMMathBox2D.h"
 #include "framework/print/ZAMPrintPaint.h"
 #include "framework/print/ZAMPrintPath.h"
+#include "framework/visualisation/ZAMPixelImage.h"
 #include "generators/cairo/ZAMPrintCairoDevicePath.h"
 #include "generators/cairo/ZAMPrintCairoHandles.h"
 #include "generators/cairo/ZAMPrintCairoPen.h"
 
 #include <cairo.h>
+#include <vector>
+
+class ZAMPrintCairoPictures;
 
 /// Draws on a surface, whatever it is, and shows cairo nothing that it cannot bear.
 class ZAMPrintCairoCanvas {
@@ -19,8 +23,10 @@ public:
         Picture ///< the surface turns each mark into pixels
     };
 
-    /// A page of the given size in points on a surface with `scale` device units to the point.
-    ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, double width, double height, double scale);
+    /// A page of the given size in points on a surface with `scale` device units to the point. The pictures are
+    /// borrowed.
+    ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, ZAMPrintCairoPictures& pictures, double width,
+                        double height, double scale);
 
     /// For what is particular to one kind of surface. Between marks it has no path and the identity as its matrix.
     [[nodiscard]] cairo_t* GetContext() const { return _Context.get(); }
@@ -38,19 +44,24 @@ public:
     void PopAllClips();
     void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen);
+    void DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage);
 
 private:
     [[nodiscard]] ZAMMathBox2D GetView(double reach) const;
     void ClipTo(const ZAMMathBox2D& area, const ZAMMathAffine2D& toDevice);
     [[nodiscard]] bool IsMuchWork(double reach) const;
     void EmitFill();
+    [[nodiscard]] std::vector<ZAMPrintCairoPattern> MakeTiles(const ZAMPrtFillPattern& pattern,
+                                                              const ZAMMathAffine2D& toDevice);
     void Fill(const ZAMPrintFill& fill);
+    void FillWithTiles(const ZAMPrintFill& fill, const std::vector<ZAMPrintCairoPattern>& tiles);
     void Stroke(ZAMPrintCairoPen& pen);
     void StrokePieces(ZAMPrintCairoPen& pen);
     void AddSolid(const ZAMPrintPath& contour, const ZAMPrintCairoPen& pen);
 
     ZAMPrintCairoContext _Context;
     Kind _Kind;
+    ZAMPrintCairoPictures& _Pictures;
     ZAMMathBox2D _Page; ///< in device units
     double _Scale;
     int _Clips = 0;

@@ -10,6 +10,7 @@
 #include "generators/cairo/ZAMPrintCairoStream.h"
 #include "generators/cairo/ZAMPrintCairoText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <exception>
 #include <new>
@@ -104,6 +105,19 @@ public:
         }
     }
 
+    void AddInternalLink(const ZAMMathBox2D& area, std::string_view destination) {
+        const ZAMMathBox2D visible = area.Intersection(_Page);
+        if (visible.Width() > 0.0 && visible.Height() > 0.0) {
+            _Output->AddInternalLink(visible, destination);
+        }
+    }
+    void AddDestination(std::string_view name, const ZAMMathPoint2D& place) {
+        if (place.IsFinite()) {
+            _Output->AddDestination(
+                name, {std::clamp(place.x, _Page.xMin, _Page.xMax), std::clamp(place.y, _Page.yMin, _Page.yMax)});
+        }
+    }
+
 private:
     template <class Step> bool Guard(const Step& step) noexcept {
         try {
@@ -179,6 +193,15 @@ void ZAMPrintCairoGenerator::AddLink(const ZAMMathBox2D& area, std::string_view 
     _Implementation->Draw([&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddLink(area, address); });
 }
 
+void ZAMPrintCairoGenerator::AddInternalLink(const ZAMMathBox2D& area, std::string_view destination) {
+    _Implementation->Draw(
+        [&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddInternalLink(area, destination); });
+}
+
+void ZAMPrintCairoGenerator::AddDestination(std::string_view name, const ZAMMathPoint2D& place) {
+    _Implementation->Draw([&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddDestination(name, place); });
+}
+
 void ZAMPrintCairoGenerator::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                                       const ZAMPrintPen* pen) {
     _Implementation->Draw([&](ZAMPrintCairoCanvas& canvas) { canvas.DrawPath(path, toPage, fill, pen); });
@@ -188,6 +211,14 @@ void ZAMPrintCairoGenerator::DrawText(const ZAMTextLayout& layout, const ZAMMath
                                       const ZAMPrintFill* fill, const ZAMPrintPen* pen) {
     _Implementation->Draw(
         [&](ZAMPrintCairoCanvas& canvas) { _Implementation->DrawText(canvas, layout, toPage, fill, pen); });
+}
+
+void ZAMPrintCairoGenerator::DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) {
+    _Implementation->Draw([&](ZAMPrintCairoCanvas& canvas) {
+        if (image) {
+            canvas.DrawImage(image, toPage);
+        }
+    });
 }
 
 std::string ZAMPrintCairoGenerator::GetError() const {

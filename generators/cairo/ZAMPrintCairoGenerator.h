@@ -32,12 +32,18 @@ public:
     void PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) override;
     void PopClip() override;
     void AddLink(const ZAMMathBox2D& area, std::string_view address) override;
+    void AddInternalLink(const ZAMMathBox2D& area, std::string_view destination) override;
+    void AddDestination(std::string_view name, const ZAMMathPoint2D& place) override;
     void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen) override;
-    /// A PDF holds text that can be selected and searched, with the used parts of its fonts. Strokes of text, text with
-    /// an em above 2,000 points, and all text of a PNG are outlines; emoji are pictures.
+    /// A PDF holds text that can be selected and searched, with the used parts of its fonts. Strokes of text, text that
+    /// is filled with a pattern or has an em above 2,000 points, and all text of a PNG are outlines; emoji are
+    /// pictures.
     void DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen) override;
+    /// A PDF holds each image once, a JPEG as it was read, and readers show its pixels as squares. A PNG shows it
+    /// smoothed unless it is enlarged four times or more.
+    void DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) override;
     [[nodiscard]] std::string GetError() const override;
 
 private:

@@ -58,6 +58,46 @@ inline constexpr double kFarthestInk = 33.0;
 /// From so many points on the outlines of a text become a mark, and the next ones another, to keep memory small.
 inline constexpr std::size_t kManyOutlinePoints = 100000;
 
+/// Narrower pictures are left out: cairo's coordinates do not resolve them.
+inline constexpr double kThinnestPicture = 1.0 / 256.0;
+
+/// Pictures that reach farther are left out: what is reckoned with them overflows.
+inline constexpr double kFarthestPicture = 1e100;
+
+/// A picture that reaches over so many pages is cut first: what readers make of it costs them memory for all of it, and
+/// from about 30 pages on they show nothing.
+inline constexpr double kMostPagesWide = 4.0;
+
+/// A pixel of a cut picture that is longer is drawn as a picture of its own: cairo finds pixels with maps in 16.16
+/// fixed point, which are too coarse for it.
+inline constexpr double kLargestPixel = 512.0;
+
+/// In a picture, others are drawn in squares of so many device units, for the same reason.
+inline constexpr int kPictureBlock = 1024;
+
+/// Cairo shows no source that is as long as a picture may be: longer ones are divided.
+inline constexpr int kLongestSource = 16384;
+
+/// Bitmaps of a pattern that are drawn one by one, where they leave gaps or overlap; more become a bitmap of the gap.
+inline constexpr double kMostSingleTiles = 64.0;
+
+/// Bitmaps of a pattern without gaps that a PDF shows as one picture: few of them some readers draw one by one, with
+/// seams. It has so many pixels at most.
+inline constexpr double kFewTiles = 16.0;
+inline constexpr double kMostComposedPixels = 16777216.0;
+
+/// Bitmaps of a pattern that are shorter than this, in device units, show as their mean colour.
+inline constexpr double kSmallestTile = 0.25;
+
+/// The shortest side of what a pattern repeats, in device units: smaller bitmaps are put together, with so many pixels
+/// to the device unit at most. Readers, and cairo's fixed point, take a million repeats for much work.
+inline constexpr double kSmallestCell = 8.0;
+inline constexpr double kFinestCell = 16.0;
+
+/// Pixels of all that is made of images for one page, 256 MiB; each counts as so many at least.
+inline constexpr std::size_t kMostMadePixels = std::size_t{1} << 26U;
+inline constexpr std::size_t kPixelsForEachPicture = 256;
+
 /// Sides of a PDF page in points (ISO 32000-1, annex C). Below the smallest, readers see an empty box.
 inline constexpr double kLargestPdfSide = 14400.0;
 inline constexpr double kSmallestPdfSide = 1e-3;

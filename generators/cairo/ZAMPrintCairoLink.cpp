@@ -44,6 +44,15 @@ void AppendNumber(std::string& text, double value) {
     text.append(digits.data(), result.ptr);
 }
 
+std::string MakeArea(const ZAMMathBox2D& area) {
+    std::string text = "rect=[";
+    for (const double value : {area.xMin, area.yMin, area.Width(), area.Height()}) {
+        AppendNumber(text, value);
+        text += ' ';
+    }
+    return text += ']';
+}
+
 } // namespace
 
 std::optional<std::string> ZAMPrintCairoLink::MakeAttributes(const ZAMMathBox2D& area, std::string_view address) {
@@ -51,12 +60,20 @@ std::optional<std::string> ZAMPrintCairoLink::MakeAttributes(const ZAMMathBox2D&
     if (address.empty() || ZAMPrintCairoMetadata::KeepCharacters(address) != address) {
         return std::nullopt;
     }
-    std::string text = "rect=[";
-    for (const double value : {area.xMin, area.yMin, area.Width(), area.Height()}) {
-        AppendNumber(text, value);
-        text += ' ';
-    }
-    text += "] uri='";
+    std::string text = MakeArea(area) + " uri='";
     AppendAddress(text, address);
     return text += '\'';
+}
+
+std::string ZAMPrintCairoLink::MakeAttributes(const ZAMMathBox2D& area, std::size_t destination) {
+    return MakeArea(area) + " dest='" + std::to_string(destination) + '\'';
+}
+
+std::string ZAMPrintCairoLink::MakeDestination(std::size_t number, const ZAMMathPoint2D& place) {
+    // Cairo writes links to later pages by name, and names that are marked as internal into no list.
+    std::string text = "name='" + std::to_string(number) + "' x=";
+    AppendNumber(text, place.x);
+    text += " y=";
+    AppendNumber(text, place.y);
+    return text;
 }

@@ -11,6 +11,10 @@ ZAMPrintCairoOutput::~ZAMPrintCairoOutput() = default;
 
 void ZAMPrintCairoOutput::AddLink(const ZAMMathBox2D& /*area*/, std::string_view /*address*/) {}
 
+void ZAMPrintCairoOutput::AddInternalLink(const ZAMMathBox2D& /*area*/, std::string_view /*destination*/) {}
+
+void ZAMPrintCairoOutput::AddDestination(std::string_view /*name*/, const ZAMMathPoint2D& /*place*/) {}
+
 void ZAMPrintCairoOutput::Check(cairo_status_t status) const {
     if (!_Stream.IsGood()) {
         throw ZAMPrintCairoFailure("cannot write the output");

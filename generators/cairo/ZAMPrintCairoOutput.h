@@ -4,6 +4,7 @@
 #include "framework/mathematics/ZAMMathBox2D.h"
 #include "framework/print/ZAMPrintParameters.h"
 #include "generators/cairo/ZAMPrintCairoCanvas.h"
+#include "generators/cairo/ZAMPrintCairoPictures.h"
 #include "generators/cairo/ZAMPrintCairoStream.h"
 
 #include <string>
@@ -14,7 +15,8 @@
 /// called.
 class ZAMPrintCairoOutput {
 public:
-    explicit ZAMPrintCairoOutput(ZAMPrintCairoStream& stream) : _Stream(stream) {}
+    /// `keepsMarks`: the pages keep their marks until they end.
+    ZAMPrintCairoOutput(ZAMPrintCairoStream& stream, bool keepsMarks) : _Stream(stream), _Pictures(keepsMarks) {}
     ZAMPrintCairoOutput(const ZAMPrintCairoOutput&) = delete;
     ZAMPrintCairoOutput& operator=(const ZAMPrintCairoOutput&) = delete;
     virtual ~ZAMPrintCairoOutput();
@@ -27,12 +29,17 @@ public:
     [[nodiscard]] virtual ZAMPrintCairoCanvas* BeginPage(double width, double height) = 0;
     /// The area lies on the page and is not empty.
     virtual void AddLink(const ZAMMathBox2D& area, std::string_view address);
+    virtual void AddInternalLink(const ZAMMathBox2D& area, std::string_view destination);
+    /// The place lies on the page.
+    virtual void AddDestination(std::string_view name, const ZAMMathPoint2D& place);
     /// The canvas has no clips any more.
     virtual void EndPage() = 0;
     virtual void EndDocument() = 0;
 
 protected:
     [[nodiscard]] ZAMPrintCairoStream& GetStream() const { return _Stream; }
+    /// They outlive the surfaces of the derived classes.
+    [[nodiscard]] ZAMPrintCairoPictures& GetPictures() { return _Pictures; }
     /// Throws what the stream or the status tells.
     void Check(cairo_status_t status) const;
     /// A length for a message: 40000, 0.5.
@@ -40,4 +47,5 @@ protected:
 
 private:
     ZAMPrintCairoStream& _Stream;
+    ZAMPrintCairoPictures _Pictures;
 };

@@ -12,11 +12,6 @@
 
 namespace {
 
-cairo_status_t WriteBytes(void* stream, const unsigned char* bytes, unsigned int count) {
-    return static_cast<ZAMPrintCairoStream*>(stream)->Write(bytes, count) ? CAIRO_STATUS_SUCCESS
-                                                                          : CAIRO_STATUS_WRITE_ERROR;
-}
-
 /// The render's pages may exceed the limit by a rounding error; others are none of PDF's.
 double FitSide(double side) {
     return std::clamp(side, ZAMPrintCairoLimits::kSmallestPdfSide, ZAMPrintCairoLimits::kLargestPdfSide);
@@ -45,7 +40,7 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPdfOutput::BeginPage(double width, double heig
                                    " points is too large: PDF allows 14,400 points a side");
     }
     SetPageSize(FitSide(width), FitSide(height));
-    _Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Vector, width, height, 1.0);
+    _Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Vector, GetPictures(), width, height, 1.0);
     MarkWholePage();
     return &*_Canvas;
 }
@@ -66,30 +61,53 @@ void ZAMPrintCairoPdfOutput::MarkWholePage() {
 
 void ZAMPrintCairoPdfOutput::AddLink(const ZAMMathBox2D& area, std::string_view address) {
     if (auto attributes = ZAMPrintCairoLink::MakeAttributes(area, address)) {
-        _Links.push_back(std::move(*attributes));
+        _Tags.push_back({CAIRO_TAG_LINK, std::move(*attributes)});
+    }
+}
+
+void ZAMPrintCairoPdfOutput::AddInternalLink(const ZAMMathBox2D& area, std::string_view destination) {
+    _Tags.push_back({CAIRO_TAG_LINK, ZAMPrintCairoLink::MakeAttributes(area, _Destinations.NumberOf(destination))});
+}
+
+void ZAMPrintCairoPdfOutput::AddDestination(std::string_view name, const ZAMMathPoint2D& place) {
+    std::size_t number = 0;
+    if (_Destinations.Add(name, number)) {
+        _Tags.push_back({CAIRO_TAG_DEST, ZAMPrintCairoLink::MakeDestination(number, place)});
     }
 }
 
 void ZAMPrintCairoPdfOutput::EndPage() {
     cairo_t* context = _Canvas->GetContext();
-    WriteLinks();
+    WriteTags();
     cairo_show_page(context);
     Check(cairo_status(context));
     _Canvas.reset();
+    GetPictures().EndPage();
     Check(cairo_surface_status(_Surface.get()));
 }
 
 void ZAMPrintCairoPdfOutput::EndDocument() {
     // Most of what can fail fails here, on the surface.
     cairo_surface_finish(_Surface.get());
+    _Filter.Flush();
     Check(cairo_surface_status(_Surface.get()));
+}
+
+cairo_status_t ZAMPrintCairoPdfOutput::WriteBytes(void* output, const unsigned char* bytes, unsigned int count) {
+    try {
+        auto& filter = static_cast<ZAMPrintCairoPdfOutput*>(output)->_Filter;
+        return filter.Write({reinterpret_cast<const char*>(bytes), count}) ? CAIRO_STATUS_SUCCESS
+                                                                           : CAIRO_STATUS_WRITE_ERROR;
+    } catch (...) {
+        return CAIRO_STATUS_NO_MEMORY;
+    }
 }
 
 /// A surface takes any size when it is made; when its size is changed, cairo 1.16 drops what lies beyond the last whole
 /// point. So only a page that differs from the one before changes it, and then has whole points.
 void ZAMPrintCairoPdfOutput::SetPageSize(double width, double height) {
     if (_Surface == nullptr) {
-        _Surface.reset(cairo_pdf_surface_create_for_stream(WriteBytes, &GetStream(), width, height));
+        _Surface.reset(cairo_pdf_surface_create_for_stream(WriteBytes, this, width, height));
         SetMetadata(_Metadata);
     } else if (width != _Width || height != _Height) {
         cairo_pdf_surface_set_size(_Surface.get(), RoundUp(width), RoundUp(height));
@@ -119,8 +137,8 @@ void ZAMPrintCairoPdfOutput::SetMetadata(const ZAMPrintMetadata& metadata) {
 
 /// After all marks, so that no clip touches the links; and because cairo forgets what it was told, tags included, when
 /// a mark covers the page, after which the end of a tag would be an error.
-void ZAMPrintCairoPdfOutput::WriteLinks() {
-    if (_Links.empty()) {
+void ZAMPrintCairoPdfOutput::WriteTags() {
+    if (_Tags.empty()) {
         return;
     }
     cairo_t* context = _Canvas->GetContext();
@@ -133,10 +151,10 @@ void ZAMPrintCairoPdfOutput::WriteLinks() {
     cairo_move_to(context, 0.0, 0.0);
     cairo_line_to(context, 0.0, 0.0);
     cairo_stroke(context);
-    for (const std::string& attributes : _Links) {
-        cairo_tag_begin(context, CAIRO_TAG_LINK, attributes.c_str());
-        cairo_tag_end(context, CAIRO_TAG_LINK);
+    for (const Tag& tag : _Tags) {
+        cairo_tag_begin(context, tag.name, tag.attributes.c_str());
+        cairo_tag_end(context, tag.name);
     }
     cairo_tag_end(context, "Document");
-    _Links.clear();
+    _Tags.clear();
 }

@@ -38,7 +38,8 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPngOutput::BeginPage(double width, double heig
     _Surface.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(columns), static_cast<int>(rows)));
     Check(cairo_surface_status(_Surface.get()));
     _HasPicture = true;
-    return &_Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Picture, columns / scale, rows / scale, scale);
+    return &_Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Picture, GetPictures(), columns / scale,
+                            rows / scale, scale);
 }
 
 void ZAMPrintCairoPngOutput::EndPage() {

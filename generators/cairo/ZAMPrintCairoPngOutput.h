@@ -9,7 +9,7 @@
 /// PNG: one picture, the first page.
 class ZAMPrintCairoPngOutput : public ZAMPrintCairoOutput {
 public:
-    using ZAMPrintCairoOutput::ZAMPrintCairoOutput;
+    explicit ZAMPrintCairoPngOutput(ZAMPrintCairoStream& stream) : ZAMPrintCairoOutput(stream, false) {}
 
     [[nodiscard]] double GetLargestPageSide() const override;
     void BeginDocument(const ZAMPrintParameters& parameters) override;

@@ -26,11 +26,11 @@ ZAMPrintCairoText::ZAMPrintCairoText(ZAMPrintCairoCanvas& canvas, ZAMPrintCairoF
 void ZAMPrintCairoText::Draw(const ZAMPrintFill* fill, const ZAMPrintPen* pen) {
     if (fill != nullptr && fill->colour.alpha > 0) {
         // Outlines may overlap, whatever the rule for other shapes.
-        const ZAMPrintFill solid{fill->colour, ZAMPrtFillRule::NonZero};
+        const ZAMPrintFill whole{fill->colour, ZAMPrtFillRule::NonZero, fill->pattern};
         for (const ZAMTextRun& run : _Layout.GetRuns()) {
-            Fill(run, solid);
+            Fill(run, whole);
         }
-        PaintOutlines(&solid, nullptr);
+        PaintOutlines(&whole, nullptr);
     }
     if (pen != nullptr && pen->colour.alpha > 0) {
         for (const ZAMTextRun& run : _Layout.GetRuns()) {
@@ -62,7 +62,7 @@ void ZAMPrintCairoText::Fill(const ZAMTextRun& run, const ZAMPrintFill& fill) {
         } else if (isLarge && isShowable) {
             ShowBitmaps(run, shape, fill.colour.alpha / 255.0);
         }
-    } else if (!(isVector && isShowable && Show(run, shape, fill.colour))) {
+    } else if (!(isVector && isShowable && fill.pattern == nullptr && Show(run, shape, fill.colour))) {
         AddOutlines(run, &fill, nullptr);
     }
 }

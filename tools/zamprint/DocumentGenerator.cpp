@@ -2,9 +2,10 @@
 #include "tools/zamprint/DocumentGenerator.h"
 
 int DocumentGenerator::BeginDocument(const ZAMPrintParameters& parameters) {
-    if (_Begun) {
-        return 1;
-    }
-    _Begun = true;
-    return _Generator.BeginDocument(parameters);
+    ++_Drawings;
+    return _Drawings == 1 ? _Generator.BeginDocument(parameters) : 1;
+}
+
+std::string DocumentGenerator::NameInDocument(std::string_view name) const {
+    return std::to_string(_Drawings).append(1, ':').append(name);
 }

@@ -4,7 +4,8 @@
 #include "framework/print/ZAMPrintGenerator.h"
 
 /// Lets several drawings become the pages of one document: each interpreter begins and ends a document of its own, and
-/// only the first beginning, and the end when all are done, reach the generator behind.
+/// only the first beginning, and the end when all are done, reach the generator behind. Links within a drawing stay
+/// there, whatever ids the others have.
 class DocumentGenerator : public ZAMPrintGenerator {
 public:
     /// The generator is borrowed.
@@ -23,6 +24,12 @@ public:
     }
     void PopClip() override { _Generator.PopClip(); }
     void AddLink(const ZAMMathBox2D& area, std::string_view address) override { _Generator.AddLink(area, address); }
+    void AddInternalLink(const ZAMMathBox2D& area, std::string_view destination) override {
+        _Generator.AddInternalLink(area, NameInDocument(destination));
+    }
+    void AddDestination(std::string_view name, const ZAMMathPoint2D& place) override {
+        _Generator.AddDestination(NameInDocument(name), place);
+    }
     void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen) override {
         _Generator.DrawPath(path, toPage, fill, pen);
@@ -31,9 +38,15 @@ public:
                   const ZAMPrintPen* pen) override {
         _Generator.DrawText(layout, toPage, fill, pen);
     }
+    void DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) override {
+        _Generator.DrawImage(image, toPage);
+    }
     [[nodiscard]] std::string GetError() const override { return _Generator.GetError(); }
 
 private:
+    /// The drawing's number and the name, as in 2:name.
+    [[nodiscard]] std::string NameInDocument(std::string_view name) const;
+
     ZAMPrintGenerator& _Generator;
-    bool _Begun = false;
+    unsigned int _Drawings = 0; ///< begun so far
 };

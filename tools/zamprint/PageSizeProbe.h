@@ -19,10 +19,13 @@ public:
     void PushClip(const ZAMMathBox2D& /*area*/, const ZAMMathAffine2D& /*toPage*/) override {}
     void PopClip() override {}
     void AddLink(const ZAMMathBox2D& /*area*/, std::string_view /*address*/) override {}
+    void AddInternalLink(const ZAMMathBox2D& /*area*/, std::string_view /*destination*/) override {}
+    void AddDestination(std::string_view /*name*/, const ZAMMathPoint2D& /*place*/) override {}
     void DrawPath(const ZAMPrintPath& /*path*/, const ZAMMathAffine2D& /*toPage*/, const ZAMPrintFill* /*fill*/,
                   const ZAMPrintPen* /*pen*/) override {}
     void DrawText(const ZAMTextLayout& /*layout*/, const ZAMMathAffine2D& /*toPage*/, const ZAMPrintFill* /*fill*/,
                   const ZAMPrintPen* /*pen*/) override {}
+    void DrawImage(const ZAMRef<ZAMPixelImage>& /*image*/, const ZAMMathAffine2D& /*toPage*/) override {}
     [[nodiscard]] std::string GetError() const override { return {}; }
 
 private:

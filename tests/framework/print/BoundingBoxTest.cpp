@@ -49,6 +49,14 @@ Element Text(const char* content, double height = 8) {
     return text;
 }
 
+Element Bitmap(const ZAMMathPoint2D& origin, double width, double height, double direction = 0) {
+    auto bitmap = ZAMNew<ZAMPrtBitmapImageElt>();
+    bitmap->SetOrigin(origin);
+    bitmap->SetSize(width, height);
+    bitmap->SetDirection(static_cast<float>(direction));
+    return bitmap;
+}
+
 template <class Container> ZAMRef<Container> Holding(const std::vector<Element>& children) {
     auto container = ZAMNew<Container>();
     for (const Element& child : children) {
@@ -66,6 +74,14 @@ Element Moved(Element element, const std::function<void(ZAMPrtTransformAttribute
 
 Element Group(const std::vector<Element>& children) {
     return Holding<ZAMPrtGroupElt>(children);
+}
+
+template <class Container>
+Element Framed(const ZAMMathPoint2D& origin, const ZAMMathVector2D& size, const std::vector<Element>& children) {
+    const auto container = Holding<Container>(children);
+    container->SetOrigin(origin);
+    container->SetSize(size.x, size.y);
+    return container;
 }
 
 void Shift(ZAMPrtTransformAttributes& transform) {
@@ -120,6 +136,17 @@ TEST(BoundingBoxTest, Rows) {
                       })}),
          {1 - 20 - ab.yMax, 2 + 10 + ab.xMin, 1 - 20 - ab.yMin, 2 + 10 + ab.xMax}},
         {Group({Text(""), Text("ab", kNaN), Text("ab", 0), Circle({3, 3}, 1)}), {2, 2, 4, 4}},
+        // A bitmap needs no pixels.
+        {Bitmap({1, 2}, 10, 20), {1, 2, 11, 22}},
+        {Group({Moved(Bitmap({1, 2}, 10, 20, ZAMPI / 2), Shift)}), {81, 2, 101, 12}},
+        {Group({Bitmap({kNaN, 2}, 10, 20), Bitmap({0, 0}, 10, kInfinity), Circle({3, 3}, 1)}), {2, 2, 4, 4}},
+        // A symbol with a size is that, whatever it holds and wherever that is.
+        {Moved(Framed<ZAMPrtSymbolElt>({5, 5}, {30, 40}, {Circle({0, 0}, 99)}), Shift), {0, 0, 30, 40}},
+        {Group({Moved(Framed<ZAMPrtSymbolElt>({5, 5}, {30, 40}, {}), Shift)}), {100, 0, 130, 40}},
+        {Framed<ZAMPrtSymbolElt>({5, 5}, {30, 0}, {Moved(Circle({0, 0}, 1), Shift)}), {99, -1, 101, 1}},
+        // A pattern is measured only itself.
+        {Framed<ZAMPrtPatternElt>({5, 5}, {30, 40}, {Circle({0, 0}, 2)}), {-2, -2, 2, 2}},
+        {Group({Framed<ZAMPrtPatternElt>({}, {1, 1}, {Circle({0, 0}, 9)}), Circle({3, 3}, 1)}), {2, 2, 4, 4}},
         // Within a figure only the geometry of the pieces counts.
         {Group({Holding<ZAMPrtClosedFigureElt>(
              {Moved(Holding<ZAMPrtClosedFigureRegionElt>({Moved(line, Shift), Circle({50, 50}, 9)}), Shift)})}),
@@ -147,6 +174,9 @@ TEST(BoundingBoxTest, NothingDrawnLeavesTheValues) {
                             WithPoints<ZAMPrtPolylineElt>({}),
                             WithPoints<ZAMPrtPolygonElt>({{kNaN, 0}, {0, kInfinity}}),
                             Group({Moved(Circle({0, 0}, 1), [](auto& t) { t.AddScaleX(kNaN); })}),
+                            Bitmap({kNaN, 0}, 1, 1),
+                            Framed<ZAMPrtSymbolElt>({}, {kNaN, 1}, {}),
+                            Group({Framed<ZAMPrtPatternElt>({}, {1, 1}, {Circle({0, 0}, 9)})}),
                             Holding<ZAMPrtClosedFigureElt>({Holding<ZAMPrtClosedFigureRegionElt>({})})};
     for (const Element& row : rows) {
         double values[] = {1, 2, 3, 4};

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "framework/mathematics/ZAMMathConstants.h"
-#include "framework/model/ZAMPrtAllElements.h"
-#include "framework/print/ZAMPrintModelRender.h"
 #include "framework/visualisation/ZAMTextLayout.h"
-#include "tests/framework/print/RecordingGenerator.h"
+#include "tests/framework/print/Scene.h"
 #include "tests/support/FontFolders.h"
 
 #include <cmath>
@@ -18,77 +16,11 @@ namespace {
 
 using Line = ZAMPrintLineAttribute;
 
-// A stroke of the colour with the index: 0 black, 1 red.
-ZAMPrtStrokeAttributes Stroke(unsigned int colour, double width = 1) {
-    ZAMPrtStrokeAttributes stroke;
-    stroke.SetStrokeColourIndex(colour);
-    stroke.SetStrokeWidth(width);
-    return stroke;
-}
-
 ZAMPrtStrokeAttributes Dashed(const std::vector<float>& lengths, Line type = Line::UserPattern) {
     ZAMPrtStrokeAttributes stroke = Stroke(0);
     stroke.SetStrokeType(type);
     stroke.SetStrokeTypePattern(lengths.data(), static_cast<unsigned char>(lengths.size()));
     return stroke;
-}
-
-ZAMPrtFillAttributes Fill(unsigned int colour, unsigned char transparency = 255, int rule = 0) {
-    ZAMPrtFillAttributes fill;
-    fill.SetFillColourIndex(colour);
-    fill.SetFillColourTransparency(transparency);
-    fill.SetFillRule(static_cast<ZAMPrtFillRule>(rule));
-    return fill;
-}
-
-// A model of one page, 100 points a side, on which (x, y) of the model is (x, 100 - y).
-class Scene {
-public:
-    Scene() {
-        unsigned int index = 0;
-        _Colours->AddColour(0, 0, 0, index);
-        _Colours->AddColour(255, 0, 0, index);
-        _Image->SetColourTable(_Colours.Get());
-        _Image->SetSize(100, 100);
-        _Model->AddImage(_Image.Get());
-        _Parameters.scale = 1.25;
-    }
-
-    ZAMPrtImageElt& Image() { return *_Image; }
-    int Draw(ZAMPrintGenerator& generator) { return ZAMPrintModelRender(_Model.Get(), &generator, _Parameters).Draw(); }
-
-    // What is drawn between clip and unclip, one mark a line.
-    std::string Marks() {
-        RecordingGenerator generator;
-        EXPECT_EQ(Draw(generator), 1);
-        const std::string text = generator.Take();
-        const std::string head = "document\npage 100 x 100\nclip 0,100 100,0\n";
-        const std::string tail = "unclip\nend page\nend document\n";
-        EXPECT_TRUE(text.starts_with(head) && text.ends_with(tail)) << text;
-        return text.substr(head.size(), text.size() - head.size() - tail.size());
-    }
-
-private:
-    ZAMRef<ZAMPrtModel> _Model = ZAMNew<ZAMPrtModel>();
-    ZAMRef<ZAMPrtImageElt> _Image = ZAMNew<ZAMPrtImageElt>();
-    ZAMRef<ZAMPrtColourTable> _Colours = ZAMNew<ZAMPrtColourTable>();
-    ZAMPrintParameters _Parameters;
-};
-
-template <class Container>
-void AddLine(Container& container, const ZAMMathPoint2D& start, const ZAMMathPoint2D& end,
-             const ZAMPrtStrokeAttributes& stroke = Stroke(0)) {
-    const auto line = ZAMNew<ZAMPrtLineElt>();
-    line->SetStartPoint(start);
-    line->SetEndPoint(end);
-    line->SetStrokeAttributes(stroke);
-    container.AddChild(line.Get());
-}
-
-template <class Element, class Container> Element& Add(Container& container) {
-    const auto element = ZAMNew<Element>();
-    container.AddChild(element.Get());
-    return *element;
 }
 
 template <class Element, class Container>
@@ -104,6 +36,11 @@ template <class Container> void AddArc(Container& container, const ZAMMathEllipt
     element.SetStrokeAttributes(Stroke(0));
 }
 
+ZAMRef<ZAMPixelImage> MakePixels(int width, int height) {
+    return ZAMNew<ZAMPixelImage>(
+        width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height)));
+}
+
 void AddSquare(ZAMPrtImageElt& image, int style, const ZAMPrtStrokeAttributes& stroke,
                const ZAMPrtFillAttributes& fill) {
     auto& square = Add<ZAMPrtRectangleElt>(image);
@@ -117,29 +54,6 @@ ZAMPrtGroupElt& AddOutline(ZAMPrtImageElt& image) {
     auto& group = Add<ZAMPrtGroupElt>(image);
     group.SetContinuousOutline(true);
     return group;
-}
-
-ZAMPrtGroupElt& AddLinkGroup(ZAMPrtGroupElt& parent, const char* url) {
-    auto& group = Add<ZAMPrtGroupElt>(parent);
-    ZAMPrintLinkURI link;
-    link.SetBaseURL(url);
-    ZAMPrtGroupAttributes attributes;
-    attributes.SetLinkURI(link);
-    group.SetGroupAttributes(attributes);
-    return group;
-}
-
-struct Row {
-    std::function<void(ZAMPrtImageElt&)> build;
-    std::string marks;
-};
-
-void ExpectMarks(const std::vector<Row>& rows) {
-    for (const Row& row : rows) {
-        Scene scene;
-        row.build(scene.Image());
-        EXPECT_EQ(scene.Marks(), row.marks) << "row " << &row - rows.data();
-    }
 }
 
 } // namespace
@@ -368,26 +282,103 @@ TEST(ModelRenderTest, TextIsDrawnWithItsLayoutWhereItStands) {
     }
 }
 
-TEST(ModelRenderTest, LinksCoverWhatTheyHoldOnThePage) {
-    const auto linkTo = [](const char* url, const ZAMMathPoint2D& first, const ZAMMathPoint2D& opposite) {
-        return [=](ZAMPrtImageElt& image) {
-            auto& rectangle = Add<ZAMPrtRectangleElt>(AddLinkGroup(Add<ZAMPrtGroupElt>(image), url));
-            rectangle.SetCorners(first, opposite);
-        };
+TEST(ModelRenderTest, BitmapsAndSymbolsAreDrawnWhereTheyStand) {
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    const auto addBitmap = [](auto& container, double width, double height, double direction = 0) {
+        auto& bitmap = Add<ZAMPrtBitmapImageElt>(container);
+        bitmap.SetOrigin({10, 20});
+        bitmap.SetSize(width, height);
+        bitmap.SetDirection(static_cast<float>(direction));
+        bitmap.SetPixelImage(MakePixels(3, 2).Get());
+    };
+    const auto addSymbol = [&](auto& container, double width, double height) -> ZAMPrtSymbolElt& {
+        auto& symbol = Add<ZAMPrtSymbolElt>(container);
+        symbol.SetOrigin({5, 6});
+        symbol.SetSize(width, height);
+        ZAMPrtTransformAttributes transform;
+        transform.AddTranslation({50, 0});
+        symbol.SetTransformAttributes(transform);
+        addBitmap(symbol, 4, 8);
+        return symbol;
     };
     ExpectMarks({
-        {linkTo("http://a/", {10, 20}, {30, 50}), "link http://a/ 10,50 30,80\n"},
-        {linkTo("http://a/", {-10, 90}, {30, 150}), "link http://a/ 0,0 30,10\n"},
-        {linkTo("http://a/", {-10, 20}, {-5, 30}), ""},
-        {linkTo("", {10, 20}, {30, 50}), ""},
-        {[](auto& image) { AddLinkGroup(Add<ZAMPrtGroupElt>(image), "http://empty/"); }, ""},
-        {[](auto& image) {
-             auto& outer = AddLinkGroup(Add<ZAMPrtGroupElt>(image), "http://outer/");
-             AddLine(outer, {0, 0}, {50, 50});
-             AddLine(AddLinkGroup(outer, "http://inner/"), {10, 10}, {20, 20}, Stroke(9));
+        {[&](auto& image) { addBitmap(image, 4, 8); }, "image 3 x 2 10,80 14,80 10,72\n"},
+        {[&](auto& image) { addBitmap(image, 4, 8, ZAMPI / 2); }, "image 3 x 2 10,80 10,76 2,80\n"},
+        {[&](auto& image) {
+             addBitmap(image, 0, 8);
+             addBitmap(image, 4, -8);
+             addBitmap(image, kNone, 8);
+             Add<ZAMPrtBitmapImageElt>(image).SetSize(4, 8);
          },
-         "M0,100 L50,50 pen 0/0/0/255 1 10 13\nlink http://inner/ 10,80 20,90\nlink http://outer/ 0,50 50,100\n"},
+         ""},
+        {[&](auto& image) { addSymbol(image, 30, 40); }, "clip 50,100 80,60\nimage 3 x 2 55,86 59,86 55,78\nunclip\n"},
+        {[&](auto& image) { addSymbol(image, 30, 0); }, "image 3 x 2 60,80 64,80 60,72\n"},
+        {[&](auto& image) { addBitmap(Add<ZAMPrtPatternElt>(image), 4, 8); }, ""},
+        {[&](auto& image) {
+             auto& symbol = addSymbol(image, 30, 40);
+             addSymbol(symbol, 3, 4);
+             AddLine(symbol, {5, 6}, {6, 7});
+         },
+         "clip 50,100 80,60\nimage 3 x 2 55,86 59,86 55,78\n"
+         "clip 95,106 98,102\nimage 3 x 2 100,92 104,92 100,84\nunclip\n"
+         "M50,100 L51,99 pen 0/0/0/255 1 10 13\nunclip\n"},
     });
+}
+
+TEST(ModelRenderTest, PatternsFillInThePathsUnits) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    const std::string square = "M0,100 L10,100 L10,90 L0,90 Z ";
+    const std::string plain = square + "fill 255/0/0/7 \n";
+    const std::string tiled = square + "fill 0/0/0/7 tile 4,8 by 5,9 at 1,2 \n";
+    const auto pixels = MakePixels(3, 2);
+    const struct {
+        ZAMPixelImage* image;
+        ZAMMathVector2D size;
+        ZAMMathVector2D step;
+        ZAMMathPoint2D point;
+        ZAMPrtFillStyle style;
+        unsigned int colour;
+        std::string marks;
+    } rows[] = {
+        {pixels.Get(), {4, 8}, {5, 9}, {1, 2}, ZAMPrtFillStyle::Pattern, 1, tiled},
+        {pixels.Get(), {4, 8}, {5, 9}, {1, 2}, ZAMPrtFillStyle::Pattern, kZAMPrtNoColour, tiled},
+        {pixels.Get(), {4, 8}, {5, 9}, {1, 2}, ZAMPrtFillStyle::Solid, 1, plain},
+        {nullptr, {4, 8}, {5, 9}, {1, 2}, ZAMPrtFillStyle::Pattern, 1, plain},
+        {nullptr, {4, 8}, {5, 9}, {1, 2}, ZAMPrtFillStyle::Pattern, kZAMPrtNoColour, ""},
+        {pixels.Get(), {0, 8}, {5, 9}, {1, 2}, ZAMPrtFillStyle::Pattern, 1, plain},
+        {pixels.Get(), {4, kInfinity}, {5, 9}, {1, 2}, ZAMPrtFillStyle::Pattern, 1, plain},
+        {pixels.Get(), {4, 8}, {5, -9}, {1, 2}, ZAMPrtFillStyle::Pattern, 1, plain},
+        {pixels.Get(), {4, 8}, {5, 9}, {kInfinity, 2}, ZAMPrtFillStyle::Pattern, 1, plain},
+    };
+    for (const auto& row : rows) {
+        Scene scene;
+        ZAMPrtFillAttributes fill = Fill(row.colour, 7);
+        fill.SetPattern(row.image, row.size, row.step);
+        fill.SetPatternRefPoint(row.point);
+        fill.SetFillStyle(row.style);
+        AddSquare(scene.Image(), 2, Stroke(0), fill);
+        fill.SetFillColourTransparency(0);
+        if (row.style == ZAMPrtFillStyle::Pattern) {
+            AddSquare(scene.Image(), 2, Stroke(0), fill);
+        }
+        EXPECT_EQ(scene.Marks(), row.marks) << "row " << &row - rows;
+    }
+    // A layout starts at the text's position, its pattern where the text's coordinates do.
+    Scene scene;
+    auto& text = Add<ZAMPrtTextElt>(scene.Image());
+    text.SetText("ab");
+    text.SetPosition({10, 20});
+    ZAMPrtTextAttributes attributes;
+    attributes.SetHeight(8);
+    text.SetTextAttributes(attributes);
+    ZAMPrtFillAttributes fill = Fill(1);
+    fill.SetPattern(pixels.Get(), {4, 8}, {5, 9});
+    fill.SetPatternRefPoint({1, 2});
+    fill.SetFillStyle(ZAMPrtFillStyle::Pattern);
+    text.SetFillAttributes(fill);
+    text.SetDrawStyle(ZAMPrtDrawStyle::Fill);
+    const std::string marks = scene.Marks();
+    EXPECT_NE(marks.find("tile 4,8 by 5,9 at -9,-18"), std::string::npos) << marks;
 }
 
 TEST(ModelRenderTest, PagesAndFailures) {

@@ -41,6 +41,12 @@ public:
     void AddLink(const ZAMMathBox2D& area, std::string_view address) override {
         _Text << "link " << address << Point({area.xMin, area.yMin}) << Point({area.xMax, area.yMax}) << '\n';
     }
+    void AddInternalLink(const ZAMMathBox2D& area, std::string_view destination) override {
+        AddLink(area, "#" + std::string(destination));
+    }
+    void AddDestination(std::string_view name, const ZAMMathPoint2D& place) override {
+        _Text << "place " << name << Point(place) << '\n';
+    }
 
     void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen) override {
@@ -68,12 +74,25 @@ public:
         AddPaint(fill, pen);
     }
 
+    // Its pixels and where its lower left, lower right and upper left corners come to be.
+    void DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) override {
+        _Text << "image " << image->GetWidth() << " x " << image->GetHeight();
+        for (const ZAMMathPoint2D& corner : {ZAMMathPoint2D{0, 0}, ZAMMathPoint2D{1, 0}, ZAMMathPoint2D{0, 1}}) {
+            _Text << Point(toPage.Apply(corner));
+        }
+        _Text << '\n';
+    }
+
     std::string GetError() const override { return {}; }
 
 private:
     void AddPaint(const ZAMPrintFill* fill, const ZAMPrintPen* pen) {
         if (fill != nullptr) {
             _Text << "fill " << Colour(fill->colour) << (fill->rule == ZAMPrtFillRule::EvenOdd ? " evenodd " : " ");
+            if (const ZAMPrtFillPattern* pattern = fill->pattern) {
+                _Text << "tile" << Point({pattern->size.x, pattern->size.y}) << " by"
+                      << Point({pattern->step.x, pattern->step.y}) << " at" << Point(pattern->refPoint) << ' ';
+            }
         }
         if (pen != nullptr) {
             _Text << "pen " << Colour(pen->colour) << ' ' << Number(pen->width) << ' ' << static_cast<int>(pen->cap)

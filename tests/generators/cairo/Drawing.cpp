@@ -48,6 +48,17 @@ ZAMPrintPath MakeRectangle(double x, double y, double width, double height) {
     return path;
 }
 
+ZAMRef<ZAMPixelImage> MakeImage(int width, int height, const std::function<std::uint32_t(int x, int y)>& at) {
+    std::vector<std::uint32_t> pixels;
+    pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            pixels.push_back(at(x, y));
+        }
+    }
+    return ZAMNew<ZAMPixelImage>(width, height, std::move(pixels));
+}
+
 ZAMPrintPen MakePen(double width) {
     ZAMPrintPen pen;
     pen.width = width;
@@ -87,6 +98,12 @@ std::string Ask(const std::string& program, const std::string& arguments, const 
 
 std::string Uncompress(const std::string& pdf) {
     return Ask("qpdf", "--qdf --object-streams=disable {} -", pdf);
+}
+
+void ExpectSound(const std::string& pdf) {
+    const std::string answer = Ask("qpdf", "--check {}", pdf);
+    EXPECT_NE(answer.find("No syntax or stream encoding errors found"), std::string::npos) << answer;
+    EXPECT_EQ(answer.find("WARNING"), std::string::npos) << answer;
 }
 
 int Count(const std::string& text, const std::string& part) {

@@ -3,6 +3,7 @@
 
 #include "generators/cairo/ZAMPrintCairoGenerator.h"
 
+#include <cstdint>
 #include <functional>
 #include <initializer_list>
 #include <limits>
@@ -16,6 +17,9 @@ inline constexpr ZAMPrintFill kBlue{{0, 0, 255, 255}, ZAMPrtFillRule::NonZero};
 /// A path from text: "M 0 0 L 10 0 C 1 1 2 2 3 3 Z"; numbers may be nan and inf.
 ZAMPrintPath MakePath(const std::string& text);
 ZAMPrintPath MakeRectangle(double x, double y, double width, double height);
+/// A picture whose pixels are 0xAARRGGBB, colours multiplied by the alpha, as `at` gives them, from the upper left
+/// corner.
+ZAMRef<ZAMPixelImage> MakeImage(int width, int height, const std::function<std::uint32_t(int x, int y)>& at);
 /// A black pen.
 ZAMPrintPen MakePen(double width);
 
@@ -34,5 +38,7 @@ inline std::string DrawPdf(const DrawMarks& marks, const ZAMPrintParameters& par
 std::string Ask(const std::string& program, const std::string& arguments, const std::string& bytes);
 /// The PDF without compression, its page contents as text.
 std::string Uncompress(const std::string& pdf);
+/// Expects that a strict reader finds no fault in the PDF.
+void ExpectSound(const std::string& pdf);
 /// How often `text` holds `part`.
 int Count(const std::string& text, const std::string& part);

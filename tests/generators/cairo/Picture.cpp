@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/generators/cairo/Picture.h"
 
+#include "tests/generators/cairo/Drawing.h"
+
 #include <cstdlib>
 #include <iomanip>
 #include <png.h>
@@ -44,4 +46,9 @@ Pixel Picture::At(int x, int y) const {
         (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)) * 4;
     return {static_cast<std::uint32_t>(bytes[0]) << 24U | static_cast<std::uint32_t>(bytes[1]) << 16U |
             static_cast<std::uint32_t>(bytes[2]) << 8U | bytes[3]};
+}
+
+Picture Rasterise(const std::string& pdf, const std::string& program, int resolution) {
+    const std::string out = program == "pdftocairo" ? " -" : "";
+    return Picture(Ask(program, "-png -singlefile -r " + std::to_string(resolution) + " {}" + out, pdf));
 }

@@ -30,3 +30,6 @@ public:
 private:
     std::vector<unsigned char> _Bytes;
 };
+
+/// The only page of a PDF as a program ("pdftoppm", "pdftocairo") shows it.
+Picture Rasterise(const std::string& pdf, const std::string& program, int resolution);

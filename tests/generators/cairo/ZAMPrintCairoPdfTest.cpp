@@ -26,11 +26,6 @@ private:
     std::streamsize _Room;
 };
 
-void ExpectSound(const std::string& pdf) {
-    const std::string answer = Ask("qpdf", "--check {}", pdf);
-    EXPECT_NE(answer.find("No syntax or stream encoding errors found"), std::string::npos) << answer;
-}
-
 } // namespace
 
 TEST(ZAMPrintCairoPdf, HasPagesOfAnySizeWithTheirLinks) {
@@ -79,6 +74,50 @@ TEST(ZAMPrintCairoPdf, KeepsWhatLiesInTheLastPartOfAPoint) {
     EXPECT_EQ(Count(sizes, "100.5 x 100.5"), 2) << sizes;
     EXPECT_EQ(Count(sizes, "201 x 201"), 2) << sizes;
     EXPECT_EQ(Count(sizes, "300 x 300"), 1) << sizes;
+}
+
+TEST(ZAMPrintCairoPdf, LinksLeadToPlacesOnOtherPages) {
+    const std::string strange = "c(\\'\"\xC3\xA4)\xFF\n";
+    std::ostringstream out;
+    ZAMPrintCairoGenerator generator(Format::Pdf, out);
+    ASSERT_EQ(generator.BeginDocument({}), 1);
+    const double heights[] = {200.0, 400.0, 300.5};
+    for (const double height : heights) {
+        ASSERT_EQ(generator.BeginPage(100.0, height), 1);
+        if (height == heights[0]) { // to a later page, to this one and to none
+            generator.AddInternalLink({0.0, 0.0, 10.0, 10.0}, strange);
+            generator.AddInternalLink({0.0, 20.0, 10.0, 30.0}, "here");
+            generator.AddInternalLink({0.0, 40.0, 10.0, 50.0}, "never");
+            generator.AddInternalLink({-9.0, 40.0, -5.0, 50.0}, "beside");
+            generator.AddDestination("here", {5.0, 6.0});
+            generator.AddDestination("here", {50.0, 60.0});
+        } else if (height == heights[1]) {
+            generator.AddDestination("high", {-7.0, -8.0});
+            generator.AddDestination("low", {7.0, 1e9});
+            generator.AddDestination("nowhere", {kNaN, 0.0});
+        } else { // to earlier pages
+            generator.AddDestination(strange, {11.0, 12.0});
+            generator.AddInternalLink({0.0, 0.0, 10.0, 10.0}, "high");
+            generator.AddInternalLink({0.0, 20.0, 10.0, 30.0}, "low");
+            generator.AddLink({0.0, 40.0, 10.0, 50.0}, "http://a/");
+        }
+        ASSERT_EQ(generator.EndPage(), 1);
+    }
+    ASSERT_EQ(generator.EndDocument(), 1) << generator.GetError();
+    ExpectSound(out.str());
+    EXPECT_EQ(Count(Uncompress(out.str()), "/Subtype /Link"), 6);
+    const std::string places = Ask("pdfinfo", "-dests {}", out.str());
+    const struct {
+        std::string place; ///< page, and the point from the lower left corner
+        std::string name;
+    } rows[] = {{"1 [ XYZ    5  194 null      ]", "1"},
+                {"2 [ XYZ    0  400 null      ]", "3"},
+                {"2 [ XYZ    7    0 null      ]", "4"},
+                {"3 [ XYZ   11  289 null      ]", "0"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(Count(places, "   " + row.place + " \"" + row.name + "\"\n"), 1) << places;
+    }
+    EXPECT_EQ(Count(places, "XYZ"), 4) << places;
 }
 
 TEST(ZAMPrintCairoPdf, LinksStayOnAPageThatAMarkCovers) {
@@ -212,6 +251,10 @@ TEST(ZAMPrintCairoPdf, CallsOutOfOrderAreHarmless) {
             generator.PopClip();
             generator.PushClip({0.0, 0.0, 1.0, 1.0}, {});
             generator.AddLink({0.0, 0.0, 1.0, 1.0}, "a");
+            generator.AddInternalLink({0.0, 0.0, 1.0, 1.0}, "b");
+            generator.AddDestination("b", {0.0, 0.0});
+            generator.DrawImage(MakeImage(1, 1, [](int, int) { return 0xFF000000U; }), {});
+            generator.DrawImage({}, {});
             generator.DrawPath(MakeRectangle(0.0, 0.0, 1.0, 1.0), {}, &kRed, nullptr);
         };
         mark();

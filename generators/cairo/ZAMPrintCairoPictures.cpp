@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "generators/cairo/ZAMPrintCairoPictures.h"
+
+#include "generators/cairo/ZAMPrintCairoLimits.h"
+#include "generators/cairo/ZAMPrintCairoPixels.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+int LimitSide(int side) {
+    return std::min(side, static_cast<int>(ZAMPrintCairoLimits::kLargestPictureSide));
+}
+
+bool IsWhole(const ZAMPixelImage& image, const ZAMPrintCairoPictures::Form& form) {
+    return form.width == image.GetWidth() && form.height == image.GetHeight() &&
+           form.columns == LimitSide(form.width) && form.rows == LimitSide(form.height) && !form.IsRepeated();
+}
+
+/// Under one name a PDF stores a picture once, whatever surfaces it comes on.
+void SetName(cairo_surface_t* surface, const std::string& image, const ZAMPrintCairoPictures::Form& form) {
+    std::string name = image;
+    std::apply([&name](auto... number) { ((name += '.' + std::to_string(number)), ...); }, form.AsTuple());
+    auto* text = std::make_unique<std::string>(std::move(name)).release();
+    const auto destroy = [](void* closure) { delete static_cast<std::string*>(closure); };
+    if (cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_UNIQUE_ID,
+                                    reinterpret_cast<const unsigned char*>(text->data()), text->size(), destroy,
+                                    text) != CAIRO_STATUS_SUCCESS) {
+        destroy(text);
+    }
+}
+
+void SetJpeg(cairo_surface_t* surface, const ZAMPixelImage& image) {
+    const auto jpeg = image.GetJpeg();
+    if (!jpeg.empty()) {
+        // The image outlives the surface. Without memory for this the pixels are stored.
+        static_cast<void>(
+            cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_JPEG, jpeg.data(), jpeg.size(), nullptr, nullptr));
+    }
+}
+
+} // namespace
+
+ZAMPrintCairoPictures::Form ZAMPrintCairoPictures::Form::Of(int x, int y, int width, int height) {
+    const int columns = LimitSide(width);
+    const int rows = LimitSide(height);
+    return {x, y, width, height, columns, rows, 0, 0, columns, rows};
+}
+
+cairo_surface_t* ZAMPrintCairoPictures::Find(const ZAMRef<ZAMPixelImage>& image, const Form& form) {
+    Known* known = &FindImage(image);
+    const auto found = known->surfaces.find(form);
+    if (found != known->surfaces.end()) {
+        return found->second.get();
+    }
+    if (!IsWhole(*image, form) && !Spend(form)) {
+        return nullptr;
+    }
+    ZAMPrintCairoSurface surface = Make(*known, form);
+    if (surface != nullptr && _KeepsMarks) {
+        SetName(surface.get(), known->name, form);
+        if (IsWhole(*image, form)) {
+            SetJpeg(surface.get(), *image);
+        }
+    }
+    return (known->surfaces[form] = std::move(surface)).get();
+}
+
+void ZAMPrintCairoPictures::EndPage() {
+    _Made = 0;
+    for (auto& [key, known] : _Images) {
+        std::erase_if(known.surfaces,
+                      [&image = *known.image](const auto& made) { return !IsWhole(image, made.first); });
+    }
+}
+
+ZAMPrintCairoPictures::Known& ZAMPrintCairoPictures::FindImage(const ZAMRef<ZAMPixelImage>& image) {
+    Known& known = _Images[image.Get()];
+    if (!known.image) {
+        known.name = std::to_string(_Images.size());
+        known.image = image;
+    }
+    return known;
+}
+
+/// Takes a surface's memory from that of the page. Where nothing is kept, what is there makes room.
+bool ZAMPrintCairoPictures::Spend(const Form& form) {
+    const bool isCopied = form.IsRepeated() || !form.KeepsPixels();
+    const std::size_t copied =
+        isCopied ? static_cast<std::size_t>(form.windowX) * static_cast<std::size_t>(form.windowY) : 0;
+    const std::size_t pixels = copied + ZAMPrintCairoLimits::kPixelsForEachPicture;
+    if (_Made + pixels > ZAMPrintCairoLimits::kMostMadePixels && !_KeepsMarks) {
+        EndPage();
+    }
+    _Made += pixels;
+    return _Made <= ZAMPrintCairoLimits::kMostMadePixels;
+}
+
+bool ZAMPrintCairoPictures::SpendCell(const Cell& cell) {
+    _CellsMade += static_cast<std::size_t>(cell.columns) * static_cast<std::size_t>(cell.rows) +
+                  ZAMPrintCairoLimits::kPixelsForEachPicture;
+    return _CellsMade <= ZAMPrintCairoLimits::kMostMadePixels;
+}
+
+ZAMPrintCairoSurface ZAMPrintCairoPictures::Make(const Known& known, const Form& form) const {
+    const ZAMPrintCairoPixels part = ZAMPrintCairoPixels(*known.image).Cut(form.x, form.y, form.width, form.height);
+    ZAMPrintCairoSurface shrunk = form.KeepsPixels() ? part.Wrap() : part.Shrink(form.columns, form.rows);
+    if (shrunk == nullptr || !form.IsRepeated()) {
+        return shrunk;
+    }
+    return ZAMPrintCairoPixels(shrunk.get()).Repeat(form.fromX, form.fromY, form.windowX, form.windowY);
+}
