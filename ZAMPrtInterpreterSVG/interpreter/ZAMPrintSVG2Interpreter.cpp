@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVG2Interpreter.h"
 
+#include "framework/base/ZAMAllocationBudget.h"
 #include "framework/base/ZAMTextCompare.h"
 #include "framework/lightxml/ZAMLightXmlElement.h"
 #include "framework/lightxml/ZAMLightXmlInputStreamBuffer.h"
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <limits>
 #include <new>
+#include <optional>
 #include <string>
 
 namespace {
@@ -83,6 +85,10 @@ int ZAMPrintSVG2Interpreter::SetCurrentPath(const ZAMUnicodeString& path) {
 int ZAMPrintSVG2Interpreter::Decode(ZAMPrintSVGModelDriver* driver) {
     if ((!_Buffer && _RootElement == nullptr) || driver == nullptr || driver->GetModel() == nullptr) {
         return -1;
+    }
+    std::optional<ZAMAllocationBudget> budget;
+    if (ZAMAllocationBudget::GetCurrent() == nullptr) {
+        budget.emplace();
     }
     try {
         if (_RootElement != nullptr) {

@@ -28,6 +28,10 @@ public:
 
     /// Adds an image element for the root, when it is an `svg` element, else for each of the root's children that is
     /// one. 1 done, also when nothing was found; -1 without a document, a driver or a model, or when memory is out.
+    ///
+    /// Reused elements and pictures are limited by the thread's ZAMAllocationBudget, or by one of this decode's own;
+    /// what a spent budget does not allow is left out. Picture files are read as the thread's ZAMFileAccessPolicy
+    /// allows.
     int Decode(ZAMPrintSVGModelDriver* driver);
 
     /// Turn the document's downward y axis into the model's upward one.

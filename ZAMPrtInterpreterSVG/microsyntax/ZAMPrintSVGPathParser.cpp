@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPathParser.h"
 
+#include <utility>
+
 int ZAMPrintSVGPathParser::SetPaintAttributes(ZAMPrtDrawStyle drawStyle, const ZAMPrtStrokeAttributes& stroke,
                                               const ZAMPrtFillAttributes& fill) {
     _DrawStyle = drawStyle;
     _StrokeAttributes = stroke;
     _FillAttributes = fill;
+    return 1;
+}
+
+int ZAMPrintSVGPathParser::SetMarkerAttributes(ZAMPrintSVGMarkers markers) {
+    _Markers = std::move(markers);
     return 1;
 }
 
@@ -15,6 +22,7 @@ int ZAMPrintSVGPathParser::ParsePathString(ZAMPrtGroupElt* group, std::string_vi
     }
     _Group = group;
     BeginFigure();
+    _MarkerVertices.Clear();
     _VertexCount = 0;
     _Current = {0.0, _ImageHeight};
     _SubpathStart = _Current;
@@ -27,6 +35,7 @@ int ZAMPrintSVGPathParser::ParsePathString(ZAMPrtGroupElt* group, std::string_vi
     }
 
     ClosePolyline();
+    _Markers.AddMarkers(_MarkerVertices, _FlipY, _ImageHeight, _Group);
     DissolveFigure();
     return 1;
 }
@@ -64,8 +73,16 @@ const ZAMRawColldouble& ZAMPrintSVGPathParser::ReadPoints(const Item& item, std:
 
 void ZAMPrintSVGPathParser::AddVertex(const ZAMMathPoint2D& point) {
     AddPointToPolyline(point);
-    ++_VertexCount;
+    AddMarkerVertex(point);
     _Current = point;
+}
+
+void ZAMPrintSVGPathParser::AddMarkerVertex(const ZAMMathPoint2D& point) {
+    ++_VertexCount;
+    if (!_Markers.IsEmpty()) {
+        _MarkerVertices.Append(point.x);
+        _MarkerVertices.Append(point.y);
+    }
 }
 
 void ZAMPrintSVGPathParser::ForgetControls() {
@@ -122,7 +139,7 @@ void ZAMPrintSVGPathParser::ParseClosePath(const Item& /*item*/) {
     if (_Current != _SubpathStart) {
         AddPointToPolyline(_SubpathStart);
     }
-    ++_VertexCount;
+    AddMarkerVertex(_SubpathStart);
     _Current = _SubpathStart;
     ForgetControls();
     ClosePolyline();

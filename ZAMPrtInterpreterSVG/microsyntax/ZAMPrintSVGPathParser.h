@@ -5,6 +5,7 @@
 #include "framework/mathematics/ZAMMathPoint2D.h"
 #include "framework/model/ZAMPrtAllElements.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGCoordinateLists.h"
+#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGMarkers.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPathItems.h"
 
 #include <string_view>
@@ -18,7 +19,11 @@ public:
     int SetPaintAttributes(ZAMPrtDrawStyle drawStyle, const ZAMPrtStrokeAttributes& stroke,
                            const ZAMPrtFillAttributes& fill);
 
-    /// Adds the pieces of `data` to the group. 1 done; -1 for a null group or a text without a command.
+    /// Takes the markers that the vertices get; each is held until the next call. Always 1.
+    int SetMarkerAttributes(ZAMPrintSVGMarkers markers);
+
+    /// Adds the pieces of `data` to the group, and the markers after them. 1 done; -1 for a null group or a text
+    /// without a command.
     int ParsePathString(ZAMPrtGroupElt* group, std::string_view data);
 
     /// Adds to each pair the point that it is relative to: the current point, then the last pair of the segment before.
@@ -51,6 +56,7 @@ private:
 
     const ZAMRawColldouble& ReadPoints(const Item& item, std::size_t pointsPerSegment);
     void AddVertex(const ZAMMathPoint2D& point);
+    void AddMarkerVertex(const ZAMMathPoint2D& point);
     void ForgetControls();
     void AddArc(const ZAMMathPoint2D& to, double xRadius, double yRadius, double rotation, bool largeArc, bool sweep);
     [[nodiscard]] ZAMMathPoint2D Reflected(const ZAMMathPoint2D& control) const;
@@ -82,5 +88,7 @@ private:
     ZAMMathPoint2D _SubpathStart;
     ZAMMathPoint2D _LastCubicControl;
     ZAMMathPoint2D _LastQuadraticControl;
-    std::size_t _VertexCount = 0; // of the vertices that may bear markers
+    ZAMPrintSVGMarkers _Markers;
+    ZAMRawColldouble _MarkerVertices; // stays empty without markers
+    std::size_t _VertexCount = 0;     // of the vertices that may bear markers
 };

@@ -12,7 +12,9 @@ template <class Curve> void ZAMPrintSVGPathParser::AddCurve(std::size_t pointsPe
         curve->SetStrokeAttributes(_StrokeAttributes);
         curve->SetPoints(_Curve.data(), static_cast<int>(_Curve.size()));
     }
-    _VertexCount += (_Curve.size() - 1) / pointsPerSegment;
+    for (std::size_t end = pointsPerSegment; end < _Curve.size(); end += pointsPerSegment) {
+        AddMarkerVertex(_Curve[end]);
+    }
     _Current = _Curve.back();
     ForgetControls();
 }
@@ -156,7 +158,7 @@ void ZAMPrintSVGPathParser::AddArc(const ZAMMathPoint2D& to, double xRadius, dou
         element->SetStrokeAttributes(_StrokeAttributes);
         element->SetArc(arc);
     }
-    ++_VertexCount;
+    AddMarkerVertex(to);
     _Current = to;
     ReopenPolyline();
 }

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPointsParser.h"
 
-std::vector<ZAMMathPoint2D> ZAMPrintSVGPointsParser::ReadPoints(std::string_view text) const {
-    ZAMRawColldouble list;
-    GetPointListFromPointListString(text, list);
+std::vector<ZAMMathPoint2D> ZAMPrintSVGPointsParser::ToPoints(const ZAMRawColldouble& list) {
     std::vector<ZAMMathPoint2D> points;
     points.reserve(list.GetCount() / 2);
     for (std::size_t i = 1; i < list.GetCount(); i += 2) {

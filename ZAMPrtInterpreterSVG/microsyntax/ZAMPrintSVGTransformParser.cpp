@@ -14,9 +14,10 @@
 namespace {
 
 using TransformableElements =
-    ZAMPrtTypeList<ZAMPrtCircleElt, ZAMPrtClosedFigureElt, ZAMPrtClosedFigureRegionElt, ZAMPrtEllipseElt,
-                   ZAMPrtEllipticalArcElt, ZAMPrtGroupElt, ZAMPrtLineElt, ZAMPrtPolyCubicBezierElt, ZAMPrtPolygonElt,
-                   ZAMPrtPolylineElt, ZAMPrtPolyQuadraticBezierElt, ZAMPrtRectangleElt, ZAMPrtTextElt>;
+    ZAMPrtTypeList<ZAMPrtBitmapImageElt, ZAMPrtCircleElt, ZAMPrtClosedFigureElt, ZAMPrtClosedFigureRegionElt,
+                   ZAMPrtEllipseElt, ZAMPrtEllipticalArcElt, ZAMPrtGroupElt, ZAMPrtLineElt, ZAMPrtPolyCubicBezierElt,
+                   ZAMPrtPolygonElt, ZAMPrtPolylineElt, ZAMPrtPolyQuadraticBezierElt, ZAMPrtRectangleElt,
+                   ZAMPrtSymbolElt, ZAMPrtTextElt>;
 
 // The numbers of an argument list: as many as any function uses, and how many there were.
 struct Numbers {

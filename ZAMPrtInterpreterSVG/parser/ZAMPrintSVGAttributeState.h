@@ -4,13 +4,19 @@
 #include "framework/model/ZAMPrtFillAttributes.h"
 #include "framework/model/ZAMPrtStrokeAttributes.h"
 #include "framework/model/ZAMPrtTextAttributes.h"
+#include "ZAMPrtInterpreterSVG/defs/ZAMPrintSVGReference.h"
 
+#include <memory>
 #include <utility>
 
 /// The attributes that an element hands down to its children: a plain value.
 struct ZAMPrintSVGAttributeState {
     unsigned int _StrokeColourIndex = 0; ///< what "currentColor" means as a stroke
     unsigned int _FillColourIndex = 0;   ///< what "currentColor" means as a fill
+    // The markers at the first vertex, at those in between and at the last one; null for none.
+    std::shared_ptr<const ZAMPrintSVGReference> _MarkerStartRef;
+    std::shared_ptr<const ZAMPrintSVGReference> _MarkerMidRef;
+    std::shared_ptr<const ZAMPrintSVGReference> _MarkerEndRef;
     ZAMPrtDrawStyle _DrawStyle = ZAMPrtDrawStyle::Fill;
     ZAMPrtStrokeAttributes _StrokeAttributes;
     ZAMPrtFillAttributes _FillAttributes;

@@ -5,9 +5,13 @@
 #include "framework/base/ZAMUnicodeString.h"
 #include "framework/lightxml/ZAMLightXmlElement.h"
 #include "framework/model/ZAMPrtAllElements.h"
+#include "ZAMPrtInterpreterSVG/defs/ZAMPrintSVGDefinitions.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGLengthReader.h"
+#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGMarkers.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGAttributeState.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGFontFinder.h"
+#include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGPatternBitmaps.h"
+#include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGPictures.h"
 
 #include <cstdint>
 #include <span>
@@ -26,7 +30,7 @@ public:
     virtual ~ZAMPrintSVGParser();
 
     /// The path of the document's file, for relative references. Always 1.
-    int SetCurrentPath(const ZAMUnicodeString& path);
+    int SetCurrentPath(const ZAMUnicodeString& path) { return _Pictures.SetCurrentPath(path); }
 
     /// The document's root: adds an image element to the model. -1 when the model is null or memory is out, else what
     /// the last child gave.
@@ -38,30 +42,86 @@ public:
     bool _FlipToOrigin = false;
 
 private:
-    // Structure: svg, g, a and the dispatch of children.
+    // Structure: svg, g, a and the dispatch of children. Whoever registers definitions adds their number to the counter
+    // that it is handed.
     int ParseSVGElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
     int ParseGroupElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
     int ParseLinkElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
-    int ParseChildren(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent);
     int ParseChildEltAsDescriptionElement(const ZAMLightXmlElementItf& element, std::string_view name,
-                                          ZAMPrtGraphicPrimitiveElt* parent);
+                                          ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
     int ParseChildEltAsGraphicPrimitiveElement(const ZAMLightXmlElementItf& element, std::string_view name,
-                                               ZAMPrtGraphicPrimitiveElt* parent);
+                                               ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
     int ParseChildEltAsStructureElement(const ZAMLightXmlElementItf& element, std::string_view name,
-                                        ZAMPrtGraphicPrimitiveElt* parent);
+                                        ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
+    int ParseChildEltAsMarkerElement(const ZAMLightXmlElementItf& element, std::string_view name,
+                                     ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
     int ParseChildEltAsHyperlinkElement(const ZAMLightXmlElementItf& element, std::string_view name,
-                                        ZAMPrtGraphicPrimitiveElt* parent);
+                                        ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
+    int ParseChildEltAsPatternElement(const ZAMLightXmlElementItf& element, std::string_view name,
+                                      ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
+    using ChildOperation = int (ZAMPrintSVGParser::*)(const ZAMLightXmlElementItf&, std::string_view,
+                                                      ZAMPrtGraphicPrimitiveElt*, int&);
+    static const ChildOperation kAllChildren[6];
+    static const ChildOperation kDefsChildren[5];
+    static const ChildOperation kTileChildren[5];
+    int ParseChildren(const ZAMLightXmlElementItf& element, std::span<const ChildOperation> operations,
+                      ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
+    int ParseScopedChildren(const ZAMLightXmlElementItf& element, std::span<const ChildOperation> operations,
+                            ZAMPrtGraphicPrimitiveElt* parent);
     static int AddChildElt(ZAMPrtGraphicPrimitiveElt* parent, ZAMPrtGraphicPrimitiveElt* child);
     void ParseDescriptions(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* target);
 
     struct ElementRow {
         std::string_view name;
-        int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent);
+        int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent,
+                                        int& definitions);
     };
     int ParseChildAs(std::span<const ElementRow> rows, const ZAMLightXmlElementItf& element, std::string_view name,
-                     ZAMPrtGraphicPrimitiveElt* parent);
+                     ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
+    // The ways in which handlers are called from a row.
+    template <int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, ZAMPrtGraphicPrimitiveElt*)>
+    int ParseOnto(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
     template <class Element, int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, Element*)>
-    int ParseNew(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent);
+    int ParseNew(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
+    template <class Element,
+              int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, Element*, ZAMPrtGraphicPrimitiveElt*)>
+    int ParseNewIn(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
+    template <int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, int&)>
+    int ParseDefinition(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
+
+    // Definitions and what refers to them.
+    int ParseDefsElement(const ZAMLightXmlElementItf& element, int& definitions);
+    int ParseSymbolElement(const ZAMLightXmlElementItf& element, int& definitions);
+    int ParsePatternElement(const ZAMLightXmlElementItf& element, int& definitions);
+    int ParseMarkerElement(const ZAMLightXmlElementItf& element, int& definitions);
+    int ParseUseElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
+    void PlaceUse(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt& group) const;
+    [[nodiscard]] ZAMRef<ZAMPrtDefsElt> NewDefinition() const;
+    int InitDefsEltAttributes();
+    int ModifyDefsEltAttributes(ZAMPrtGraphicPrimitiveElt* element);
+    [[nodiscard]] bool IsStateOf(const ZAMPrtDefsElt& definition) const;
+    int GetDefsElt(const ZAMPrintSVGReference& id, ZAMRef<ZAMPrtGraphicPrimitiveElt>& result);
+    int GetEltFromURI(const ZAMPrintSVGReference* id, ZAMRef<ZAMPrtGraphicPrimitiveElt>& result);
+    void CompleteShared(const ZAMPrintSVGDefinitions::Found& found);
+    ZAMPrintSVGMarkers FindMarkers();
+    void AddLineMarker(const ZAMRef<ZAMPrtGraphicPrimitiveElt>& marker, const ZAMMathPoint2D& vertex,
+                       ZAMPrtGraphicPrimitiveElt* parent) const;
+
+    // The tile of a pattern, the box of a marker: the two are placed alike.
+    struct Tile {
+        ZAMMathPoint2D reference;
+        double width = 0.0;
+        double height = 0.0;
+    };
+    [[nodiscard]] Tile ReadPatternTile(const ZAMLightXmlElementItf& element) const;
+    [[nodiscard]] Tile ReadMarkerTile(const ZAMLightXmlElementItf& element) const;
+    void ScaleContent(const ZAMLightXmlElementItf& element, const Tile& tile, ZAMPrtGraphicPrimitiveElt& content) const;
+    void SetMarkerFrame(const ZAMLightXmlElementItf& element, ZAMPrtSymbolElt& symbol) const;
+    void SetFillPattern(const ZAMPrtPatternElt& pattern);
+
+    // Pictures.
+    int ParseBitmapImageElement(const ZAMLightXmlElementItf& element, ZAMPrtBitmapImageElt* bitmap);
+    void ParseXLinkEmbedAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive);
 
     // The root and the nested svg.
     int BeginImage(ZAMPrtModel& model);
@@ -72,9 +132,18 @@ private:
         double minY;
         double width;
         double height;
-        bool differs; ///< it was given and is not the document's own box
+        bool isGiven = false;
+        bool differs = false; ///< it was given and is not the document's own box
     };
-    [[nodiscard]] ViewBox ReadNestedViewBox(const ZAMLightXmlElementItf& element) const;
+    [[nodiscard]] ViewBox ReadViewBox(const ZAMLightXmlElementItf& element, ViewBox preset) const;
+    struct Placement {
+        double x;
+        double y;
+        double xScale = 1.0;
+        double yScale = 1.0;
+    };
+    void AddPlacement(ZAMPrtTransformAttributes& transform, Placement placement) const;
+    static void AddScale(ZAMPrtTransformAttributes& transform, double xScale, double yScale);
     void PlaceNestedSvg(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt& group) const;
     void AddFlip(ZAMPrtTransformAttributes& transform) const;
 
@@ -82,13 +151,19 @@ private:
     int ParseRectElement(const ZAMLightXmlElementItf& element, ZAMPrtRectangleElt* rect);
     int ParseCircleElement(const ZAMLightXmlElementItf& element, ZAMPrtCircleElt* circle);
     int ParseEllipseElement(const ZAMLightXmlElementItf& element, ZAMPrtEllipseElt* ellipse);
-    int ParseLineElement(const ZAMLightXmlElementItf& element, ZAMPrtLineElt* line);
-    int ParsePolylineElement(const ZAMLightXmlElementItf& element, ZAMPrtPolylineElt* polyline);
-    int ParsePolygonElement(const ZAMLightXmlElementItf& element, ZAMPrtPolygonElt* polygon);
+    int ParseLineElement(const ZAMLightXmlElementItf& element, ZAMPrtLineElt* line,
+                         ZAMPrtGraphicPrimitiveElt* markerParent);
+    int ParsePolylineElement(const ZAMLightXmlElementItf& element, ZAMPrtPolylineElt* polyline,
+                             ZAMPrtGraphicPrimitiveElt* markerParent);
+    int ParsePolygonElement(const ZAMLightXmlElementItf& element, ZAMPrtPolygonElt* polygon,
+                            ZAMPrtGraphicPrimitiveElt* markerParent);
     int ParsePathElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group);
     template <class Shape, class ReadGeometry>
     int ParseShape(const ZAMLightXmlElementItf& element, Shape* shape, ReadGeometry readGeometry);
-    void ParseShapeAttrib(const ZAMLightXmlElementItf& element);
+    template <class Shape>
+    int ParsePoints(const ZAMLightXmlElementItf& element, Shape* shape, ZAMPrtGraphicPrimitiveElt* markerParent);
+    enum class Markers : bool { None, Read };
+    void ParseShapeAttrib(const ZAMLightXmlElementItf& element, Markers markers = Markers::None);
 
     // Text, titles and descriptions.
     int ParseTextElement(const ZAMLightXmlElementItf& element, ZAMPrtTextElt* text);
@@ -105,13 +180,14 @@ private:
     void ParseTextAttrib(const ZAMLightXmlElementItf& element);
     void ParseTextContentAttrib(const ZAMLightXmlElementItf& element);
     void ParseFontAttrib(const ZAMLightXmlElementItf& element);
+    void ParseMarkerAttrib(const ZAMLightXmlElementItf& element);
     void ParseStyleAttrib(const ZAMLightXmlElementItf& element);
     static void ParseCoreAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive);
     void ParseTransformAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive) const;
     static void ParseXLinkReplaceAttrib(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* primitive);
 
     // Properties, as attributes and in style.
-    enum class ReadingOperation : std::uint8_t { Opacity, Color, Graphics, Paint, Text, TextContent, Font };
+    enum class ReadingOperation : std::uint8_t { Opacity, Color, Graphics, Paint, Text, TextContent, Font, Marker };
     // What the properties of one reading operation, or of one style, have to say together; applied at its end.
     struct PendingPaint {
         float strokeOpacity = 1.0F;
@@ -151,7 +227,12 @@ private:
     void ReadFontFamily(std::string_view value, PendingPaint& pending);
     void ReadFontSize(std::string_view value, PendingPaint& pending);
     void ReadFontWeight(std::string_view value, PendingPaint& pending);
+    void ReadMarker(std::string_view value, PendingPaint& pending);
+    void ReadMarkerStart(std::string_view value, PendingPaint& pending);
+    void ReadMarkerMid(std::string_view value, PendingPaint& pending);
+    void ReadMarkerEnd(std::string_view value, PendingPaint& pending);
     void ReadFillPaint(ZAMUnicodeString& text, PendingPaint& pending);
+    void ReadFillReference(std::string_view id);
 
     int GetColor(ZAMUnicodeString& text, unsigned int& index);
     ZAMPrtColourTable* GetColourTable(); // of the image, made when it is missing; null when memory is out
@@ -172,6 +253,8 @@ private:
     ZAMRef<ZAMPrtImageElt> _Image;
     double _ImageWidth = 0.0;
     double _ImageHeight = 0.0; ///< also what y coordinates are flipped about
-    ZAMUnicodeString _CurrentPath;
+    ZAMPrintSVGDefinitions _DefsList;
+    ZAMPrintSVGPatternBitmaps _PatternBitmaps;
+    ZAMPrintSVGPictures _Pictures;
     ZAMPrintSVGFontFinder _Fonts;
 };

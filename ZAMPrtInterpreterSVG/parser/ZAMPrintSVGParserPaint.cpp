@@ -128,6 +128,7 @@ void ZAMPrintSVGParser::ReadFillPaint(ZAMUnicodeString& text, PendingPaint& pend
         if (text.View().starts_with("url(#")) {
             text.Remove(0, 5);
             text.ReplaceAll(")", "");
+            ReadFillReference(text);
         }
     } else if (GetColor(text, index) == 1) {
         _FillAttributes.SetFillColourIndex(index);

@@ -78,6 +78,10 @@ const ZAMPrintSVGParser::PropertyRow ZAMPrintSVGParser::kProperties[] = {
     {"font-family", ReadingOperation::Font, &ZAMPrintSVGParser::ReadFontFamily, &ZAMPrintSVGParser::ReadFontFamily},
     {"font-size", ReadingOperation::Font, &ZAMPrintSVGParser::ReadFontSize, &ZAMPrintSVGParser::ReadFontSize},
     {"font-weight", ReadingOperation::Font, &ZAMPrintSVGParser::ReadFontWeight, &ZAMPrintSVGParser::ReadFontWeight},
+    {"marker", ReadingOperation::Marker, &ZAMPrintSVGParser::ReadMarker, nullptr},
+    {"marker-start", ReadingOperation::Marker, &ZAMPrintSVGParser::ReadMarkerStart, nullptr},
+    {"marker-mid", ReadingOperation::Marker, &ZAMPrintSVGParser::ReadMarkerMid, nullptr},
+    {"marker-end", ReadingOperation::Marker, &ZAMPrintSVGParser::ReadMarkerEnd, nullptr},
 };
 
 void ZAMPrintSVGParser::ParsePresentationAttrib(const ZAMLightXmlElementItf& element,
@@ -89,6 +93,7 @@ void ZAMPrintSVGParser::ParsePresentationAttrib(const ZAMLightXmlElementItf& ele
     ParseTextAttrib(element);
     ParseTextContentAttrib(element);
     ParseFontAttrib(element);
+    ParseMarkerAttrib(element);
 }
 
 void ZAMPrintSVGParser::ParseOpacityAttrib(const ZAMLightXmlElementItf& element) {
@@ -117,6 +122,10 @@ void ZAMPrintSVGParser::ParseTextContentAttrib(const ZAMLightXmlElementItf& elem
 
 void ZAMPrintSVGParser::ParseFontAttrib(const ZAMLightXmlElementItf& element) {
     ReadAttributes(element, ReadingOperation::Font);
+}
+
+void ZAMPrintSVGParser::ParseMarkerAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes(element, ReadingOperation::Marker);
 }
 
 void ZAMPrintSVGParser::ReadAttributes(const ZAMLightXmlElementItf& element, ReadingOperation operation) {

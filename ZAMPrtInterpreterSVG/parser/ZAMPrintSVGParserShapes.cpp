@@ -5,14 +5,26 @@
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPointsParser.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGParser.h"
 
+#include <concepts>
 #include <type_traits>
 
+namespace {
+
+template <class Shape>
+constexpr bool kBearsMarkers = std::same_as<Shape, ZAMPrtLineElt> || std::same_as<Shape, ZAMPrtPolylineElt> ||
+                               std::same_as<Shape, ZAMPrtPolygonElt>;
+
+} // namespace
+
 // The order in which shapes read their attributes; style comes last and wins.
-void ZAMPrintSVGParser::ParseShapeAttrib(const ZAMLightXmlElementItf& element) {
+void ZAMPrintSVGParser::ParseShapeAttrib(const ZAMLightXmlElementItf& element, Markers markers) {
     ParseGraphicsAttrib(element);
     ParseOpacityAttrib(element);
     ParseColorAttrib(element);
     ParsePaintAttrib(element);
+    if (markers == Markers::Read) {
+        ParseMarkerAttrib(element);
+    }
     ParseStyleAttrib(element);
 }
 
@@ -22,7 +34,7 @@ int ZAMPrintSVGParser::ParseShape(const ZAMLightXmlElementItf& element, Shape* s
         return -1;
     }
     const ZAMPrintSVGStateScope saved(*this, ZAMPrintSVGSaved::Paint);
-    ParseShapeAttrib(element);
+    ParseShapeAttrib(element, kBearsMarkers<Shape> ? Markers::Read : Markers::None);
     shape->SetStrokeAttributes(_StrokeAttributes);
     if constexpr (std::is_base_of_v<ZAMPrtPaintedElt, Shape>) {
         shape->SetDrawStyle(_DrawStyle);
@@ -76,7 +88,8 @@ int ZAMPrintSVGParser::ParseEllipseElement(const ZAMLightXmlElementItf& element,
     });
 }
 
-int ZAMPrintSVGParser::ParseLineElement(const ZAMLightXmlElementItf& element, ZAMPrtLineElt* line) {
+int ZAMPrintSVGParser::ParseLineElement(const ZAMLightXmlElementItf& element, ZAMPrtLineElt* line,
+                                        ZAMPrtGraphicPrimitiveElt* markerParent) {
     return ParseShape(element, line, [&] {
         ZAMMathPoint2D start;
         ZAMMathPoint2D end;
@@ -86,23 +99,33 @@ int ZAMPrintSVGParser::ParseLineElement(const ZAMLightXmlElementItf& element, ZA
         GetYCoordinate(element, "y2", end.y);
         line->SetStartPoint(start);
         line->SetEndPoint(end);
+        if (markerParent != nullptr) {
+            const ZAMPrintSVGMarkers markers = FindMarkers();
+            AddLineMarker(markers.start, start, markerParent);
+            AddLineMarker(markers.end, end, markerParent);
+        }
     });
 }
 
-int ZAMPrintSVGParser::ParsePolylineElement(const ZAMLightXmlElementItf& element, ZAMPrtPolylineElt* polyline) {
-    return ParseShape(element, polyline, [&] {
+template <class Shape>
+int ZAMPrintSVGParser::ParsePoints(const ZAMLightXmlElementItf& element, Shape* shape,
+                                   ZAMPrtGraphicPrimitiveElt* markerParent) {
+    return ParseShape(element, shape, [&] {
         ZAMPrintSVGPointsParser parser;
         parser.SetImageSize(_ImageWidth, _ImageHeight);
-        parser.ParsePointsString(polyline, element.GetAttribute("points"));
+        parser.SetMarkerAttributes(FindMarkers());
+        parser.ParsePointsString(shape, element.GetAttribute("points"), markerParent);
     });
 }
 
-int ZAMPrintSVGParser::ParsePolygonElement(const ZAMLightXmlElementItf& element, ZAMPrtPolygonElt* polygon) {
-    return ParseShape(element, polygon, [&] {
-        ZAMPrintSVGPointsParser parser;
-        parser.SetImageSize(_ImageWidth, _ImageHeight);
-        parser.ParsePointsString(polygon, element.GetAttribute("points"));
-    });
+int ZAMPrintSVGParser::ParsePolylineElement(const ZAMLightXmlElementItf& element, ZAMPrtPolylineElt* polyline,
+                                            ZAMPrtGraphicPrimitiveElt* markerParent) {
+    return ParsePoints(element, polyline, markerParent);
+}
+
+int ZAMPrintSVGParser::ParsePolygonElement(const ZAMLightXmlElementItf& element, ZAMPrtPolygonElt* polygon,
+                                           ZAMPrtGraphicPrimitiveElt* markerParent) {
+    return ParsePoints(element, polygon, markerParent);
 }
 
 // The group itself bears no paint: it goes to the pieces.
@@ -111,13 +134,14 @@ int ZAMPrintSVGParser::ParsePathElement(const ZAMLightXmlElementItf& element, ZA
         return -1;
     }
     const ZAMPrintSVGStateScope saved(*this, ZAMPrintSVGSaved::Paint);
-    ParseShapeAttrib(element);
+    ParseShapeAttrib(element, Markers::Read);
     ParseCoreAttrib(element, group);
     ParseTransformAttrib(element, group);
     group->SetContinuousOutline(true);
     ZAMPrintSVGPathParser parser;
     parser.SetImageSize(_ImageWidth, _ImageHeight);
     parser.SetPaintAttributes(_DrawStyle, _StrokeAttributes, _FillAttributes);
+    parser.SetMarkerAttributes(FindMarkers());
     parser.ParsePathString(group, element.GetAttribute("d"));
     ParseDescriptions(element, group);
     return 0;

@@ -7,14 +7,23 @@
 namespace {
 
 // The classes that take children, in the order in which their names are tried.
-using ContainerElements = ZAMPrtTypeList<ZAMPrtGroupElt, ZAMPrtImageElt, ZAMPrtClosedFigureRegionElt>;
+using ContainerElements = ZAMPrtTypeList<ZAMPrtGroupElt, ZAMPrtImageElt, ZAMPrtDefsElt, ZAMPrtSymbolElt,
+                                         ZAMPrtPatternElt, ZAMPrtClosedFigureRegionElt>;
 
 } // namespace
+
+// The handlers of titles and descriptions, which fill the parent itself.
+template <int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, ZAMPrtGraphicPrimitiveElt*)>
+int ZAMPrintSVGParser::ParseOnto(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent,
+                                 int& /*definitions*/) {
+    return (this->*parse)(element, parent);
+}
 
 // Creates the model's element, attaches it and has it filled, in this order: an element whose own parse fails half way
 // is in its parent all the same.
 template <class Element, int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, Element*)>
-int ZAMPrintSVGParser::ParseNew(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent) {
+int ZAMPrintSVGParser::ParseNew(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent,
+                                int& /*definitions*/) {
     const auto created = ZAMNew<Element>();
     if (!created) {
         return 0;
@@ -23,31 +32,52 @@ int ZAMPrintSVGParser::ParseNew(const ZAMLightXmlElementItf& element, ZAMPrtGrap
     return (this->*parse)(element, created.Get());
 }
 
+// The same for elements whose markers go to the parent.
+template <class Element,
+          int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, Element*, ZAMPrtGraphicPrimitiveElt*)>
+int ZAMPrintSVGParser::ParseNewIn(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent,
+                                  int& /*definitions*/) {
+    const auto created = ZAMNew<Element>();
+    if (!created) {
+        return 0;
+    }
+    AddChildElt(parent, created.Get());
+    return (this->*parse)(element, created.Get(), parent);
+}
+
+// Definitions attach nothing to the parent.
+template <int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, int&)>
+int ZAMPrintSVGParser::ParseDefinition(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* /*parent*/,
+                                       int& definitions) {
+    return (this->*parse)(element, definitions);
+}
+
 int ZAMPrintSVGParser::ParseChildAs(std::span<const ElementRow> rows, const ZAMLightXmlElementItf& element,
-                                    std::string_view name, ZAMPrtGraphicPrimitiveElt* parent) {
+                                    std::string_view name, ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
     if (parent == nullptr) {
         return -1;
     }
     for (const ElementRow& row : rows) {
         if (ZAMTextMatches(row.name, name)) {
-            return (this->*row.parse)(element, parent);
+            return (this->*row.parse)(element, parent, definitions);
         }
     }
     return 1;
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsDescriptionElement(const ZAMLightXmlElementItf& element, std::string_view name,
-                                                         ZAMPrtGraphicPrimitiveElt* parent) {
+                                                         ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
+    using P = ZAMPrintSVGParser;
     static constexpr ElementRow kRows[] = {
-        {"desc", &ZAMPrintSVGParser::ParseDescElement},
-        {"title", &ZAMPrintSVGParser::ParseTitleElement},
+        {"desc", &P::ParseOnto<&P::ParseDescElement>},
+        {"title", &P::ParseOnto<&P::ParseTitleElement>},
     };
-    return ParseChildAs(kRows, element, name, parent);
+    return ParseChildAs(kRows, element, name, parent, definitions);
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsGraphicPrimitiveElement(const ZAMLightXmlElementItf& element,
-                                                              std::string_view name,
-                                                              ZAMPrtGraphicPrimitiveElt* parent) {
+                                                              std::string_view name, ZAMPrtGraphicPrimitiveElt* parent,
+                                                              int& definitions) {
     using P = ZAMPrintSVGParser;
     static constexpr ElementRow kRows[] = {
         {"path", &P::ParseNew<ZAMPrtGroupElt, &P::ParsePathElement>},
@@ -55,47 +85,82 @@ int ZAMPrintSVGParser::ParseChildEltAsGraphicPrimitiveElement(const ZAMLightXmlE
         {"rect", &P::ParseNew<ZAMPrtRectangleElt, &P::ParseRectElement>},
         {"circle", &P::ParseNew<ZAMPrtCircleElt, &P::ParseCircleElement>},
         {"ellipse", &P::ParseNew<ZAMPrtEllipseElt, &P::ParseEllipseElement>},
-        {"line", &P::ParseNew<ZAMPrtLineElt, &P::ParseLineElement>},
-        {"polyline", &P::ParseNew<ZAMPrtPolylineElt, &P::ParsePolylineElement>},
-        {"polygon", &P::ParseNew<ZAMPrtPolygonElt, &P::ParsePolygonElement>},
+        {"line", &P::ParseNewIn<ZAMPrtLineElt, &P::ParseLineElement>},
+        {"polyline", &P::ParseNewIn<ZAMPrtPolylineElt, &P::ParsePolylineElement>},
+        {"polygon", &P::ParseNewIn<ZAMPrtPolygonElt, &P::ParsePolygonElement>},
+        {"image", &P::ParseNew<ZAMPrtBitmapImageElt, &P::ParseBitmapImageElement>},
     };
-    return ParseChildAs(kRows, element, name, parent);
+    return ParseChildAs(kRows, element, name, parent, definitions);
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsStructureElement(const ZAMLightXmlElementItf& element, std::string_view name,
-                                                       ZAMPrtGraphicPrimitiveElt* parent) {
+                                                       ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
     using P = ZAMPrintSVGParser;
     static constexpr ElementRow kRows[] = {
         {"g", &P::ParseNew<ZAMPrtGroupElt, &P::ParseGroupElement>},
+        {"defs", &P::ParseDefinition<&P::ParseDefsElement>},
+        {"use", &P::ParseNew<ZAMPrtGroupElt, &P::ParseUseElement>},
+        {"symbol", &P::ParseDefinition<&P::ParseSymbolElement>},
         {"svg", &P::ParseNew<ZAMPrtGroupElt, &P::ParseSVGElement>},
     };
-    return ParseChildAs(kRows, element, name, parent);
+    return ParseChildAs(kRows, element, name, parent, definitions);
+}
+
+int ZAMPrintSVGParser::ParseChildEltAsMarkerElement(const ZAMLightXmlElementItf& element, std::string_view name,
+                                                    ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
+    using P = ZAMPrintSVGParser;
+    static constexpr ElementRow kRows[] = {
+        {"marker", &P::ParseDefinition<&P::ParseMarkerElement>},
+    };
+    return ParseChildAs(kRows, element, name, parent, definitions);
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsHyperlinkElement(const ZAMLightXmlElementItf& element, std::string_view name,
-                                                       ZAMPrtGraphicPrimitiveElt* parent) {
+                                                       ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
+    using P = ZAMPrintSVGParser;
     static constexpr ElementRow kRows[] = {
-        {"a", &ZAMPrintSVGParser::ParseNew<ZAMPrtGroupElt, &ZAMPrintSVGParser::ParseLinkElement>},
+        {"a", &P::ParseNew<ZAMPrtGroupElt, &P::ParseLinkElement>},
     };
-    return ParseChildAs(kRows, element, name, parent);
+    return ParseChildAs(kRows, element, name, parent, definitions);
 }
+
+int ZAMPrintSVGParser::ParseChildEltAsPatternElement(const ZAMLightXmlElementItf& element, std::string_view name,
+                                                     ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
+    using P = ZAMPrintSVGParser;
+    static constexpr ElementRow kRows[] = {
+        {"pattern", &P::ParseDefinition<&P::ParsePatternElement>},
+    };
+    return ParseChildAs(kRows, element, name, parent, definitions);
+}
+
+// The operations that containers offer their children to, in order: images, groups, links, symbols take all, defs no
+// descriptions, patterns and markers no markers.
+const ZAMPrintSVGParser::ChildOperation ZAMPrintSVGParser::kAllChildren[] = {
+    &ZAMPrintSVGParser::ParseChildEltAsDescriptionElement, &ZAMPrintSVGParser::ParseChildEltAsGraphicPrimitiveElement,
+    &ZAMPrintSVGParser::ParseChildEltAsStructureElement,   &ZAMPrintSVGParser::ParseChildEltAsMarkerElement,
+    &ZAMPrintSVGParser::ParseChildEltAsHyperlinkElement,   &ZAMPrintSVGParser::ParseChildEltAsPatternElement,
+};
+const ZAMPrintSVGParser::ChildOperation ZAMPrintSVGParser::kDefsChildren[] = {
+    &ZAMPrintSVGParser::ParseChildEltAsGraphicPrimitiveElement, &ZAMPrintSVGParser::ParseChildEltAsStructureElement,
+    &ZAMPrintSVGParser::ParseChildEltAsMarkerElement,           &ZAMPrintSVGParser::ParseChildEltAsHyperlinkElement,
+    &ZAMPrintSVGParser::ParseChildEltAsPatternElement,
+};
+const ZAMPrintSVGParser::ChildOperation ZAMPrintSVGParser::kTileChildren[] = {
+    &ZAMPrintSVGParser::ParseChildEltAsDescriptionElement, &ZAMPrintSVGParser::ParseChildEltAsGraphicPrimitiveElement,
+    &ZAMPrintSVGParser::ParseChildEltAsStructureElement,   &ZAMPrintSVGParser::ParseChildEltAsHyperlinkElement,
+    &ZAMPrintSVGParser::ParseChildEltAsPatternElement,
+};
 
 // Each child is offered to the operations in turn until one knows its name; whatever nobody knows is skipped with all
 // that it holds.
-int ZAMPrintSVGParser::ParseChildren(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent) {
-    using Operation =
-        int (ZAMPrintSVGParser::*)(const ZAMLightXmlElementItf&, std::string_view, ZAMPrtGraphicPrimitiveElt*);
-    static constexpr Operation kChain[] = {
-        &ZAMPrintSVGParser::ParseChildEltAsDescriptionElement,
-        &ZAMPrintSVGParser::ParseChildEltAsGraphicPrimitiveElement,
-        &ZAMPrintSVGParser::ParseChildEltAsStructureElement,
-        &ZAMPrintSVGParser::ParseChildEltAsHyperlinkElement,
-    };
+int ZAMPrintSVGParser::ParseChildren(const ZAMLightXmlElementItf& element, std::span<const ChildOperation> operations,
+                                     ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
     int result = 0;
     for (ZAMLightXmlPosition position = element.GetFirstChildPosition(); position != 0;) {
         const ZAMLightXmlElement child = element.GetNextChild(position);
-        for (const Operation operation : kChain) {
-            result = (this->*operation)(child, child.GetName(), parent);
+        ZAMAllocationBudget::Earn();
+        for (const ChildOperation operation : operations) {
+            result = (this->*operation)(child, child.GetName(), parent, definitions);
             if (result != 1) {
                 break;
             }
@@ -104,11 +169,22 @@ int ZAMPrintSVGParser::ParseChildren(const ZAMLightXmlElementItf& element, ZAMPr
     return result;
 }
 
+// What is defined among the children ends with them.
+int ZAMPrintSVGParser::ParseScopedChildren(const ZAMLightXmlElementItf& element,
+                                           std::span<const ChildOperation> operations,
+                                           ZAMPrtGraphicPrimitiveElt* parent) {
+    int definitions = 0;
+    const int result = ParseChildren(element, operations, parent, definitions);
+    _DefsList.RemoveLast(definitions);
+    return result;
+}
+
 // Elements without graphic children offer theirs to the descriptions only.
 void ZAMPrintSVGParser::ParseDescriptions(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* target) {
     for (ZAMLightXmlPosition position = element.GetFirstChildPosition(); position != 0;) {
         const ZAMLightXmlElement child = element.GetNextChild(position);
-        ParseChildEltAsDescriptionElement(child, child.GetName(), target);
+        int definitions = 0;
+        ParseChildEltAsDescriptionElement(child, child.GetName(), target, definitions);
     }
 }
 
@@ -128,7 +204,7 @@ int ZAMPrintSVGParser::ParseGroupElement(const ZAMLightXmlElementItf& element, Z
     ParseStyleAttrib(element);
     ParseCoreAttrib(element, group);
     ParseTransformAttrib(element, group);
-    return ParseChildren(element, group);
+    return ParseScopedChildren(element, kAllChildren, group);
 }
 
 int ZAMPrintSVGParser::ParseLinkElement(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt* group) {

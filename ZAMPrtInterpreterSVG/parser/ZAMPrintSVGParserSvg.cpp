@@ -2,18 +2,8 @@
 // The svg element (SVG 1.1, 5.1): the root, which becomes the image element, and the nested one, which becomes a group.
 #include "framework/print/ZAMPrintModelBoundingBoxComputer.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGViewBoxParser.h"
+#include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGNear.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGParser.h"
-
-namespace {
-
-// Decides what differs from the identity: 0.01 in single precision.
-constexpr double kTolerance = 0.01F;
-
-bool IsNear(double value, double reference) {
-    return !(value > reference + kTolerance) && !(value < reference - kTolerance);
-}
-
-} // namespace
 
 int ZAMPrintSVGParser::ParseSVGElement(const ZAMLightXmlElementItf& element, ZAMPrtModel* model) {
     if (model == nullptr) {
@@ -23,12 +13,14 @@ int ZAMPrintSVGParser::ParseSVGElement(const ZAMLightXmlElementItf& element, ZAM
     if (BeginImage(*model) != 1) {
         return -1;
     }
+    _DefsList = {};
     static_cast<ZAMPrintSVGAttributeState&>(*this) = {};
     ParsePresentationAttrib(element, _Image.Get());
     ParseStyleAttrib(element);
     ParseCoreAttrib(element, _Image.Get());
     ReadImageFrame(element);
-    const int result = ParseChildren(element, _Image.Get());
+    int definitions = 0; // the root's live as long as the parser
+    const int result = ParseChildren(element, kAllChildren, _Image.Get(), definitions);
     FitImageToContent();
     return result;
 }
@@ -100,15 +92,17 @@ int ZAMPrintSVGParser::ParseSVGElement(const ZAMLightXmlElementItf& element, ZAM
     ParseStyleAttrib(element);
     ParseCoreAttrib(element, group);
     PlaceNestedSvg(element, *group);
-    return ParseChildren(element, group);
+    return ParseScopedChildren(element, kAllChildren, group);
 }
 
-ZAMPrintSVGParser::ViewBox ZAMPrintSVGParser::ReadNestedViewBox(const ZAMLightXmlElementItf& element) const {
-    ViewBox box{0.0, 0.0, _ImageWidth, _ImageHeight, false};
-    const int given = ZAMPrintSVGViewBoxParser::ParseViewBoxString(element.GetAttribute("viewBox"), box.minX, box.minY,
-                                                                   box.width, box.height);
-    box.differs = given == 1 && !(IsNear(box.minX, 0.0) && IsNear(box.minY, 0.0) && IsNear(box.width, _ImageWidth) &&
-                                  IsNear(box.height, _ImageHeight));
+// Values that are not there, or are no numbers, are those of `preset`.
+ZAMPrintSVGParser::ViewBox ZAMPrintSVGParser::ReadViewBox(const ZAMLightXmlElementItf& element, ViewBox preset) const {
+    ViewBox box = preset;
+    box.isGiven = ZAMPrintSVGViewBoxParser::ParseViewBoxString(element.GetAttribute("viewBox"), box.minX, box.minY,
+                                                               box.width, box.height) == 1;
+    box.differs =
+        box.isGiven && !(ZAMPrintSVGIsNear(box.minX, 0.0) && ZAMPrintSVGIsNear(box.minY, 0.0) &&
+                         ZAMPrintSVGIsNear(box.width, _ImageWidth) && ZAMPrintSVGIsNear(box.height, _ImageHeight));
     return box;
 }
 
@@ -119,44 +113,52 @@ void ZAMPrintSVGParser::AddFlip(ZAMPrtTransformAttributes& transform) const {
     }
 }
 
+// Factors within 1 % of 1 are not applied.
+void ZAMPrintSVGParser::AddScale(ZAMPrtTransformAttributes& transform, double xScale, double yScale) {
+    if (!ZAMPrintSVGIsNear(xScale, 1.0)) {
+        transform.AddScaleX(xScale);
+    }
+    if (!ZAMPrintSVGIsNear(yScale, 1.0)) {
+        transform.AddScaleY(yScale);
+    }
+}
+
+// Moves and scales in the document's frame; y is the coordinate as it was read, flipped where y is flipped.
+void ZAMPrintSVGParser::AddPlacement(ZAMPrtTransformAttributes& transform, Placement placement) const {
+    AddFlip(transform);
+    if (_FlipY) {
+        placement.y = _ImageHeight - placement.y;
+    }
+    if (!ZAMPrintSVGIsNear(placement.x, 0.0) || !ZAMPrintSVGIsNear(placement.y, 0.0)) {
+        transform.AddTranslation({placement.x, placement.y});
+    }
+    AddScale(transform, placement.xScale, placement.yScale);
+    AddFlip(transform);
+}
+
 // The group is still empty, so that without a viewBox there is no content to scale.
 void ZAMPrintSVGParser::PlaceNestedSvg(const ZAMLightXmlElementItf& element, ZAMPrtGroupElt& group) const {
-    double x = 0.0;
-    double y = 0.0;
+    Placement placement{0.0, 0.0};
     double width = 0.0;
     double height = 0.0;
-    GetXCoordinate(element, "x", x);
-    GetYCoordinate(element, "y", y);
+    GetXCoordinate(element, "x", placement.x);
+    GetYCoordinate(element, "y", placement.y);
     GetHorLength(element, "width", width);
     GetVertLength(element, "height", height);
-    const ViewBox viewBox = ReadNestedViewBox(element);
+    const ViewBox viewBox = ReadViewBox(element, {0.0, 0.0, _ImageWidth, _ImageHeight});
     ZAMPrtTransformAttributes transform = group.GetTransformAttributes();
 
     // y is held against the height also where it is not flipped.
-    if (!IsNear(x, 0.0) || !IsNear(y, _ImageHeight) || width > 0.0 || height > 0.0) {
-        double xScale = 1.0;
-        double yScale = 1.0;
+    if (!ZAMPrintSVGIsNear(placement.x, 0.0) || !ZAMPrintSVGIsNear(placement.y, _ImageHeight) || width > 0.0 ||
+        height > 0.0) {
         // The box is measured by its edges, rounding included.
         const double contentWidth = viewBox.minX + viewBox.width - viewBox.minX;
         const double contentHeight = viewBox.minY + viewBox.height - viewBox.minY;
         if (viewBox.differs && contentWidth > 0.0 && contentHeight > 0.0 && width > 0.0 && height > 0.0) {
-            xScale = width / contentWidth;
-            yScale = height / contentHeight;
+            placement.xScale = width / contentWidth;
+            placement.yScale = height / contentHeight;
         }
-        AddFlip(transform);
-        if (_FlipY) {
-            y = _ImageHeight - y;
-        }
-        if (!IsNear(x, 0.0) || !IsNear(y, 0.0)) {
-            transform.AddTranslation({x, y});
-        }
-        if (!IsNear(xScale, 1.0)) {
-            transform.AddScaleX(xScale);
-        }
-        if (!IsNear(yScale, 1.0)) {
-            transform.AddScaleY(yScale);
-        }
-        AddFlip(transform);
+        AddPlacement(transform, placement);
     }
     if (viewBox.differs) {
         AddFlip(transform);

@@ -29,14 +29,14 @@ TEST(PointsParser, Points) {
         const auto polyline = ZAMNew<ZAMPrtPolylineElt>();
         const auto polygon = ZAMNew<ZAMPrtPolygonElt>();
         group->AddChild(polyline.Get());
-        EXPECT_EQ(parser.ParsePointsString(polyline.Get(), text), 1) << text;
-        EXPECT_EQ(parser.ParsePointsString(polygon.Get(), text), 1) << text;
+        EXPECT_EQ(parser.ParsePointsString(polyline.Get(), text, nullptr), 1) << text;
+        EXPECT_EQ(parser.ParsePointsString(polygon.Get(), text, nullptr), 1) << text;
         EXPECT_EQ(PieceText(*group), expected) << text;
         EXPECT_TRUE(std::ranges::equal(polygon->GetPoints(), polyline->GetPoints())) << text;
     }
     const auto polygon = ZAMNew<ZAMPrtPolygonElt>();
-    EXPECT_EQ(parser.ParsePointsString(polygon.Get(), ""), -1);
-    EXPECT_EQ(parser.ParsePointsString(static_cast<ZAMPrtPolylineElt*>(nullptr), "1 2"), -1);
+    EXPECT_EQ(parser.ParsePointsString(polygon.Get(), "", nullptr), -1);
+    EXPECT_EQ(parser.ParsePointsString(static_cast<ZAMPrtPolylineElt*>(nullptr), "1 2", nullptr), -1);
 }
 
 } // namespace
