@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "framework/base/ZAMAllocationBudget.h"
 #include "framework/print/ZAMPrintColour.h"
+#include "tools/zamprint/AllowedFiles.h"
 #include "tools/zamprint/OutputFormat.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -20,6 +23,8 @@ struct Options {
     std::optional<double> height; ///< in the same units
     double resolution = 90.0;     ///< pixels to the inch
     std::optional<ZAMPrintColour> background;
+    AllowedFiles allowedFiles = AllowedFiles::Document;
+    std::size_t mostElements = ZAMAllocationBudget::kElements; ///< that are reused, besides 10 for each that is read
 
     /// The format asked for, else the one that the output's ending names, else PDF.
     [[nodiscard]] OutputFormat GetFormat() const {

@@ -55,17 +55,27 @@ void WritePages(const Document& document, const Options& options, OutputFile& ou
     }
 }
 
+void RefuseSpent(const Document& document, const ZAMAllocationBudget& budget) {
+    if (budget.IsSpent()) {
+        throw Failure(ExitStatus::Failed,
+                      document.GetName() + ": reuses too many elements; --max-elements N allows more");
+    }
+}
+
 } // namespace
 
 void Print(const Options& options) {
     RefuseTerminal(options);
     RefuseOwnInput(options);
     const Document document(options.input);
+    const ZAMFileAccessPolicy policy = MakePolicy(options.allowedFiles, document.GetPath());
+    const ZAMAllocationBudget budget(options.mostElements);
     OutputFile output(options.output);
     if (options.GetFormat() == OutputFormat::Json) {
         WriteJson(document, output.GetStream());
     } else {
         WritePages(document, options, output);
     }
+    RefuseSpent(document, budget);
     output.Commit();
 }
