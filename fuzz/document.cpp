@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The whole way of one document: bytes to model, model to JSON, PDF and PNG in memory. Whatever the bytes are, the
 // outputs must be drawn without an error.
+#include "framework/base/ZAMAllocationBudget.h"
+#include "framework/base/ZAMFileAccessPolicy.h"
 #include "framework/lightxml/ZAMLightXmlInputStreamBuffer.h"
 #include "framework/lightxml/ZAMLightXmlParser.h"
 #include "framework/model/ZAMPrtModelJson.h"
@@ -14,6 +16,9 @@
 #include <sstream>
 
 namespace {
+
+// So few that an input that doubles itself is still quick.
+constexpr std::size_t kReusedElements = 5000;
 
 void Draw(const ZAMPrtModel& model, ZAMPrintCairoGenerator::Format format) {
     constexpr double kSmallPage = 200.0; // points: the time is to be spent on the document
@@ -35,6 +40,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ZAMLightXmlParser().Parse(stream, root);
     const auto model = ZAMNew<ZAMPrtModel>();
     ZAMPrintSVGModelDriver driver(model.Get());
+    const ZAMFileAccessPolicy policy = ZAMFileAccessPolicy::None();
+    const ZAMAllocationBudget budget(kReusedElements);
     ZAMPrintSVG2Interpreter(&root).Decode(&driver);
     std::ostringstream json;
     ZAMPrtWriteModelAsJson(*model, json);
