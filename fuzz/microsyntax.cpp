@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     transform.ParseTransformString(value, group.Get());
 
     const auto polygon = ZAMNew<ZAMPrtPolygonElt>();
-    ZAMPrintSVGPointsParser().ParsePointsString(polygon.Get(), value);
+    ZAMPrintSVGPointsParser().ParsePointsString(polygon.Get(), value, group.Get());
 
     double box[4] = {};
     ZAMPrintSVGViewBoxParser::ParseViewBoxString(value, box[0], box[1], box[2], box[3]);
