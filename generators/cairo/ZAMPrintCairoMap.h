@@ -23,6 +23,25 @@ inline bool IsSingular(const ZAMMathAffine2D& map) {
     return !map.IsFinite() || !unit.IsInvertible();
 }
 
+/// The sine of the angle between the axes of the plane as they are mapped; not a number when one has no length.
+inline double GetSine(const ZAMMathAffine2D& map) {
+    const double x = std::hypot(map.a, map.b);
+    const double y = std::hypot(map.c, map.d);
+    return std::abs(map.a / x * (map.d / y) - map.b / x * (map.c / y));
+}
+
+/// The axes fall so nearly on one line that what is reckoned back from the device means nothing.
+inline bool IsFlat(const ZAMMathAffine2D& map) {
+    constexpr double kSmallestSine = 1e-6;
+    return !(GetSine(map) >= kSmallestSine);
+}
+
+/// How far the lines x = 0 and x = 1 come to lie apart, and those with y.
+inline ZAMMathVector2D GetSpacing(const ZAMMathAffine2D& map) {
+    const double sine = GetSine(map);
+    return {sine * std::hypot(map.a, map.b), sine * std::hypot(map.c, map.d)};
+}
+
 /// What undoes a map that is not singular. Scaled, so that no determinant overflows.
 inline ZAMMathAffine2D Invert(const ZAMMathAffine2D& map) {
     const double largest = std::max({std::abs(map.a), std::abs(map.b), std::abs(map.c), std::abs(map.d)});

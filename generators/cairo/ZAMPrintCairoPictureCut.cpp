@@ -24,6 +24,11 @@ std::vector<Run> CutSide(int pixels, double pixelLength, double from, double to)
     if (pixelLength <= ZAMPrintCairoLimits::kLargestPixel) {
         return {{first, last - first + 1, static_cast<double>(first) / pixels, (last + 1.0) / pixels}};
     }
+    // No page shows so many large pixels; rounding may seem to find them when the map is nearly singular.
+    constexpr int kMost = 1000;
+    if (last - first >= kMost) {
+        return {};
+    }
     std::vector<Run> single;
     for (int pixel = first; pixel <= last; ++pixel) {
         single.push_back(

@@ -19,7 +19,7 @@ struct Part {
 };
 
 /// The parts of a picture of `width` × `height` pixels that the view shows: whole pixels, or, where they are large
-/// themselves, as much of each pixel as is needed. The map, from the unit square to device units, is invertible.
+/// themselves, as much of each pixel as is needed. The map, from the unit square to device units, is not singular.
 [[nodiscard]] std::vector<Part> Cut(int width, int height, const ZAMMathAffine2D& toDevice, const ZAMMathBox2D& view);
 
 } // namespace ZAMPrintCairoPictureCut

@@ -15,14 +15,16 @@ namespace {
 constexpr ZAMMathBox2D kUnitSquare{0.0, 0.0, 1.0, 1.0};
 
 /// `toDevice` carries pixels to device units. PDF knows smooth or not; see the class for when.
-cairo_filter_t ChooseFilter(Kind kind, bool isOnePixel, const ZAMMathAffine2D& toDevice) {
+cairo_filter_t ChooseFilter(Kind kind, const ZAMMathAffine2D& toDevice) {
     constexpr double kLargestSmoothPixel = 4.0;
-    if (kind == Kind::Vector || isOnePixel) {
+    // From here on cairo takes seconds to find edges that nobody would miss.
+    constexpr double kLargestSmoothEdge = 64.0;
+    const double pixel = ZAMPrintCairoStretch(toDevice.Linear()).longest;
+    if (kind == Kind::Vector || pixel > kLargestSmoothEdge) {
         return CAIRO_FILTER_FAST;
     }
     // The best filter draws the pixels of enlarged pictures as squares with smooth edges.
-    return ZAMPrintCairoStretch(toDevice.Linear()).longest < kLargestSmoothPixel ? CAIRO_FILTER_GOOD
-                                                                                 : CAIRO_FILTER_BEST;
+    return pixel < kLargestSmoothPixel ? CAIRO_FILTER_GOOD : CAIRO_FILTER_BEST;
 }
 
 } // namespace
@@ -33,7 +35,7 @@ void ZAMPrintCairoPicturePainter::Draw(const ZAMRef<ZAMPixelImage>& image, const
     // Written so that NaN ends here.
     if (!(stretch.shortest >= ZAMPrintCairoLimits::kThinnestPicture && stretch.longest <= farthest &&
           std::abs(toDevice.e) <= farthest && std::abs(toDevice.f) <= farthest) ||
-        ZAMPrintCairoMap::IsSingular(toDevice)) {
+        ZAMPrintCairoMap::IsFlat(toDevice)) {
         return;
     }
     const ZAMMathBox2D box = toDevice.Apply(kUnitSquare);
@@ -61,7 +63,7 @@ ZAMPrintCairoPattern ZAMPrintCairoPicturePainter::MakeSource(cairo_surface_t* su
     ZAMPrintCairoPattern source(cairo_pattern_create_for_surface(surface));
     cairo_pattern_set_matrix(source.get(), &matrix);
     cairo_pattern_set_extend(source.get(), extend);
-    cairo_pattern_set_filter(source.get(), ChooseFilter(kind, width * height == 1.0, pixelsToDevice));
+    cairo_pattern_set_filter(source.get(), ChooseFilter(kind, pixelsToDevice));
     return source;
 }
 
@@ -74,8 +76,8 @@ void ZAMPrintCairoPicturePainter::DrawPart(const ZAMRef<ZAMPixelImage>& image, Z
                                            const ZAMMathAffine2D& toDevice) {
     const bool isPicture = _Kind == Kind::Picture;
     if (isPicture) {
-        form.Reduce(ReducePixels(form.columns, std::hypot(toDevice.a, toDevice.b)),
-                    ReducePixels(form.rows, std::hypot(toDevice.c, toDevice.d)));
+        const ZAMMathVector2D spacing = ZAMPrintCairoMap::GetSpacing(toDevice);
+        form.Reduce(ReducePixels(form.columns, spacing.x), ReducePixels(form.rows, spacing.y));
     }
     cairo_surface_t* surface = _Pictures.Find(image, form);
     // Its edge pixels go on, so that only the outline is smoothed.

@@ -45,11 +45,14 @@ ZAMPrintCairoTiles::ZAMPrintCairoTiles(const ZAMPrintCairoCanvas& canvas, ZAMPri
     : _Context(canvas.GetContext()), _Kind(canvas.GetKind()), _Pictures(pictures), _Image(pattern.image),
       _ToDevice(toDevice), _Area(area), _Painter(_Context, _Kind, canvas.GetPage(), pictures) {
     const ZAMMathBox2D shown = ZAMPrintCairoMap::Invert(toDevice).Apply(area);
+    const ZAMMathVector2D spacing = ZAMPrintCairoMap::GetSpacing(toDevice);
     const ZAMMathVector2D& step = pattern.step;
-    _X = MakeAxis(pattern.refPoint.x, pattern.size.x, step.x, step.x * std::hypot(toDevice.a, toDevice.b), shown.xMin,
-                  shown.xMax, _Image->GetWidth());
-    _Y = MakeAxis(pattern.refPoint.y, pattern.size.y, step.y, step.y * std::hypot(toDevice.c, toDevice.d), shown.yMin,
-                  shown.yMax, _Image->GetHeight());
+    _X = MakeAxis(pattern.refPoint.x, pattern.size.x, step.x, shown.xMin, shown.xMax, _Image->GetWidth());
+    _X.length = step.x * std::hypot(toDevice.a, toDevice.b);
+    _X.spacing = step.x * spacing.x;
+    _Y = MakeAxis(pattern.refPoint.y, pattern.size.y, step.y, shown.yMin, shown.yMax, _Image->GetHeight());
+    _Y.length = step.y * std::hypot(toDevice.c, toDevice.d);
+    _Y.spacing = step.y * spacing.y;
 }
 
 ZAMPrintCairoTiles::Sources ZAMPrintCairoTiles::MakeSources() {
@@ -57,7 +60,8 @@ ZAMPrintCairoTiles::Sources ZAMPrintCairoTiles::MakeSources() {
     constexpr double kMostExact = 4503599627370496.0;
     const double count = _X.count * _Y.count;
     // Written so that NaN ends here.
-    if (!(count >= 1.0 && std::abs(_X.first) < kMostExact && std::abs(_Y.first) < kMostExact)) {
+    if (!(count >= 1.0 && std::abs(_X.first) < kMostExact && std::abs(_Y.first) < kMostExact) ||
+        ZAMPrintCairoMap::IsFlat(_ToDevice)) {
         return {};
     }
     // Those with huge pixels would be too much for readers and for fixed point; each for itself is cut.
@@ -78,7 +82,7 @@ bool ZAMPrintCairoTiles::IsSeamless() const {
 }
 
 bool ZAMPrintCairoTiles::Axis::IsSmall() const {
-    return length < ZAMPrintCairoLimits::kSmallestCell;
+    return spacing < ZAMPrintCairoLimits::kSmallestCell;
 }
 
 /// Two bitmaps of a PDF reach as far as a picture may, or farther.
@@ -91,13 +95,12 @@ bool ZAMPrintCairoTiles::IsHuge(const Axis& axis) const {
     return hasLargePixels && (_Kind == Kind::Picture || IsLong(axis));
 }
 
-ZAMPrintCairoTiles::Axis ZAMPrintCairoTiles::MakeAxis(double origin, double size, double step, double length,
-                                                      double from, double to, int pixels) {
+ZAMPrintCairoTiles::Axis ZAMPrintCairoTiles::MakeAxis(double origin, double size, double step, double from, double to,
+                                                      int pixels) {
     Axis axis;
     axis.origin = origin;
     axis.size = size;
     axis.step = step;
-    axis.length = length;
     axis.pixels = pixels;
     axis.first = std::floor((from - origin - std::min(size, kMostLayers * step)) / step) + 1.0;
     axis.count = std::max(0.0, std::ceil((to - origin) / step) - axis.first);
@@ -109,16 +112,16 @@ ZAMPrintCairoTiles::Axis ZAMPrintCairoTiles::MakeAxis(double origin, double size
 ZAMPrintCairoTiles::Extent ZAMPrintCairoTiles::MakeExtent(const Axis& axis) const {
     const int most = std::min(axis.pixels, static_cast<int>(ZAMPrintCairoLimits::kLargestPictureSide));
     int pixels = most;
-    if (axis.length < ZAMPrintCairoLimits::kSmallestTile) {
+    if (axis.spacing < ZAMPrintCairoLimits::kSmallestTile) {
         pixels = 1;
     } else if (_Kind == Kind::Picture) {
         // One for each device unit: cairo takes twenty times as long when it has to reduce what it repeats.
-        pixels = static_cast<int>(std::clamp<double>(std::round(axis.length), 1.0, most));
+        pixels = static_cast<int>(std::clamp<double>(std::round(axis.spacing), 1.0, most));
     } else if (axis.IsSmall()) {
-        pixels = ZAMPrintCairoPicturePainter::ReducePixels(most, axis.length * ZAMPrintCairoLimits::kFinestCell);
+        pixels = ZAMPrintCairoPicturePainter::ReducePixels(most, axis.spacing * ZAMPrintCairoLimits::kFinestCell);
     }
     const bool isEnlarged = axis.IsSmall() && (_Kind == Kind::Vector || pixels == 1);
-    return {pixels, 0.0, isEnlarged ? std::ceil(ZAMPrintCairoLimits::kSmallestCell / axis.length) : 1.0};
+    return {pixels, 0.0, isEnlarged ? std::ceil(ZAMPrintCairoLimits::kSmallestCell / axis.spacing) : 1.0};
 }
 
 /// Makes the picture one of all that the area shows: whole bitmaps, so that other fills can show it too, or of long
@@ -236,7 +239,7 @@ void ZAMPrintCairoTiles::IncludeGaps() {
     constexpr double kLargestCell = 1024.0;
     const double density = _Kind == Kind::Picture ? 2.0 : 8.0;
     const auto count = [&](const Axis& axis) {
-        return static_cast<int>(std::clamp(std::ceil(axis.length * density), 1.0, kLargestCell));
+        return static_cast<int>(std::clamp(std::ceil(axis.spacing * density), 1.0, kLargestCell));
     };
     const int columns = count(_X);
     const int rows = count(_Y);

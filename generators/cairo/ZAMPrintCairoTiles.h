@@ -36,8 +36,9 @@ private:
         double origin = 0.0; ///< the start of one of them, in the pattern's coordinates
         double size = 0.0;
         double step = 0.0;
-        double length = 0.0; ///< of a step, in device units
-        double first = 0.0;  ///< of those that reach into the area, counted from the origin
+        double length = 0.0;  ///< of a step, in device units
+        double spacing = 0.0; ///< between the edges of a bitmap; less than the length when the map is sheared
+        double first = 0.0;   ///< of those that reach into the area, counted from the origin
         double count = 0.0;
         double from = 0.0; ///< the area, in bitmaps from the first one's start
         double to = 0.0;
@@ -59,8 +60,7 @@ private:
         }
     };
 
-    [[nodiscard]] static Axis MakeAxis(double origin, double size, double step, double length, double from, double to,
-                                       int pixels);
+    [[nodiscard]] static Axis MakeAxis(double origin, double size, double step, double from, double to, int pixels);
     [[nodiscard]] Extent MakeExtent(const Axis& axis) const;
     void ShowAll(Extent& x, Extent& y) const;
     [[nodiscard]] bool IsSeamless() const;

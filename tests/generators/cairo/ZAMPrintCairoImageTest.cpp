@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "generators/cairo/ZAMPrintCairoNameFilter.h"
+#include "generators/cairo/ZAMPrintCairoPixels.h"
 #include "tests/generators/cairo/Drawing.h"
 #include "tests/generators/cairo/Picture.h"
 
@@ -151,6 +152,8 @@ TEST(ZAMPrintCairoImage, IsStoredOnceHoweverOftenItIsDrawn) {
         return 0xFF000000U | mixed >> 8U;
     });
     const auto seeThrough = MakeImage(4, 4, [](int x, int) { return x < 2 ? 0x80000080U : 0U; });
+    const ZAMPrtFillPattern pattern{noise, {20.0, 20.0}, {20.0, 20.0}, {}};
+    const ZAMPrintFill tiled{{0, 0, 0, 255}, ZAMPrtFillRule::NonZero, &pattern};
     std::ostringstream out;
     ZAMPrintCairoGenerator generator(ZAMPrintCairoGenerator::Format::Pdf, out);
     ASSERT_EQ(generator.BeginDocument({}), 1);
@@ -160,16 +163,17 @@ TEST(ZAMPrintCairoImage, IsStoredOnceHoweverOftenItIsDrawn) {
             generator.DrawImage(noise, At(i % 97, 10.0 + i % 89, 3.0, 3.0));
         }
         generator.DrawImage(seeThrough, At(10.0, 90.0, 80.0, 80.0));
+        generator.DrawPath(MakeRectangle(0.0, 0.0, 50.0, 50.0), {}, &tiled, nullptr);
         ASSERT_EQ(generator.EndPage(), 1);
     }
     ASSERT_EQ(generator.EndDocument(), 1);
     ExpectSound(out.str());
-    EXPECT_LT(out.str().size(), 160000U); // 12 kB of pixels, 22 bytes for each time
+    EXPECT_LT(out.str().size(), 260000U); // 12 kB of pixels, nine times as many for the fill, 22 bytes for each time
     const std::string text = Uncompress(out.str());
-    EXPECT_EQ(Count(text, "/Subtype /Image"), 3);
+    EXPECT_EQ(Count(text, "/Subtype /Image"), 4);
     EXPECT_EQ(Count(text, "/SMask "), 1) << "of the picture that is not opaque";
     EXPECT_EQ(Count(text, "/Interpolate true"), 0);
-    EXPECT_EQ(Count(text, " Do\n"), 6003);
+    EXPECT_EQ(Count(text, " Do\n"), 6006);
 }
 
 TEST(ZAMPrintCairoImage, AJpegKeepsItsBytes) {
@@ -195,6 +199,48 @@ TEST(ZAMPrintCairoImage, AJpegKeepsItsBytes) {
         }
         EXPECT_TRUE(Rasterise(pdf, "pdftoppm", 72).At(98, 25).IsNear(0xD8D8D8FF, 24));
     }
+}
+
+TEST(ZAMPrintCairoPixels, ShrinkToMeansAndRepeat) {
+    // Rows of opacities.
+    const struct {
+        std::vector<std::string> rows;
+        int width;
+        int height;
+        std::vector<std::string> expected;
+    } rows[] = {
+        {{"036", "036"}, 3, 2, {"036", "036"}},
+        {{"036"}, 2, 1, {"15"}}, // 0 and half of the 3; half of the 3 and 6
+        {{"0", "3", "6"}, 1, 2, {"1", "5"}},
+        {{"02", "46"}, 1, 1, {"3"}},
+        {{"0088", "0088", "8800", "8800"}, 2, 2, {"08", "80"}},
+    };
+    constexpr unsigned int kUnit = 28; // so that halves of a unit are whole
+    const auto read = [](cairo_surface_t* surface) {
+        std::vector<std::string> text(static_cast<std::size_t>(cairo_image_surface_get_height(surface)));
+        const unsigned char* bytes = cairo_image_surface_get_data(surface);
+        for (std::string& row : text) {
+            for (int x = 0; x < cairo_image_surface_get_width(surface); ++x) {
+                row += static_cast<char>('0' + (bytes[4 * x + 3] + kUnit / 2) / kUnit);
+            }
+            bytes += cairo_image_surface_get_stride(surface);
+        }
+        return text;
+    };
+    for (const auto& row : rows) {
+        const auto image =
+            MakeImage(static_cast<int>(row.rows.front().size()), static_cast<int>(row.rows.size()), [&](int x, int y) {
+                const char digit = row.rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+                return static_cast<std::uint32_t>(digit - '0') * kUnit << 24U;
+            });
+        const ZAMPrintCairoSurface shrunk = ZAMPrintCairoPixels(*image).Shrink(row.width, row.height);
+        EXPECT_EQ(read(shrunk.get()), row.expected) << "row " << &row - rows;
+    }
+    const auto digits =
+        MakeImage(3, 2, [](int x, int y) { return static_cast<std::uint32_t>(3 * y + x) * kUnit << 24U; });
+    const ZAMPrintCairoPixels pixels = ZAMPrintCairoPixels(*digits).Cut(1, 0, 2, 2);
+    EXPECT_EQ(read(pixels.Wrap().get()), (std::vector<std::string>{"12", "45"}));
+    EXPECT_EQ(read(pixels.Repeat(1, 1, 5, 3).get()), (std::vector<std::string>{"54545", "21212", "54545"}));
 }
 
 TEST(ZAMPrintCairoNameFilter, BlanksNamesThatComeAgain) {

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace {
 
@@ -90,6 +91,36 @@ TEST(ZAMPrintCairoTiles, ShowNoSeams) {
         }
         expectNone(Rasterise(pdf, "pdftocairo", 100), "pdftocairo");
     }
+}
+
+TEST(ZAMPrintCairoTiles, ShowNoSeamsWhereEachPixelIsLarge) {
+    const auto pattern = MakePattern(MakeTexture(33), {1e6, 1e6}, {1e6, 1e6}, {3.3, -7.1});
+    EXPECT_EQ(FindSeam(Picture(DrawPng(FillSquare(pattern, kUpright), OnWhite())), kUpright, 33.0), "");
+}
+
+TEST(ZAMPrintCairoTiles, KeepTheirStepOnTheWidestPicture) {
+    std::ostringstream out;
+    ZAMPrintCairoGenerator generator(ZAMPrintCairoGenerator::Format::Png, out);
+    ZAMPrintParameters parameters = OnWhite();
+    parameters.resolution = 72.0;
+    ASSERT_EQ(generator.BeginDocument(parameters), 1);
+    ASSERT_EQ(generator.BeginPage(32767.0, 20.0), 1);
+    const auto halves = MakeHalves();
+    const auto pattern = MakePattern(halves, {100.37, 10.0}, {100.37, 10.0}, {7.0, 0.0});
+    const ZAMPrintFill fill{{0, 0, 0, 255}, ZAMPrtFillRule::NonZero, &pattern};
+    generator.DrawPath(MakeRectangle(0.0, 0.0, 32767.0, 10.0), {}, &fill, nullptr);
+    const auto wide = MakeImage(400, 1, [](int x, int) { return x < 200 ? 0xFFFF0000U : 0xFF0000FFU; });
+    generator.DrawImage(wide, {32000.0, 0.0, 0.0, -10.0, 500.0, 20.0});
+    ASSERT_EQ(generator.EndPage(), 1);
+    ASSERT_EQ(generator.EndDocument(), 1);
+    const Picture picture(out.str());
+    for (int bitmap = 0; bitmap < 325; bitmap += 9) {
+        for (const auto& [part, rgba] : {std::pair(0.03, 0xFF0000FFU), {0.47, 0xFF0000FFU}, {0.53, 0x0000FFFFU}}) {
+            const int x = static_cast<int>(7.0 + (bitmap + part) * 100.37);
+            EXPECT_TRUE(picture.At(x, 5).IsNear(rgba)) << x << ": " << picture.At(x, 5);
+        }
+    }
+    EXPECT_TRUE(picture.At(16497, 15).IsNear(0xFF0000FF) && picture.At(16503, 15).IsNear(0x0000FFFF));
 }
 
 TEST(ZAMPrintCairoTiles, StandWhereTheyBelong) {
