@@ -101,7 +101,10 @@ TEST_F(ReuseTest, ADocumentThatDoublesItselfIsAnError) {
     std::string document = R"(<svg width="9" height="9"><defs><rect id="d0" width="1" height="1"/></defs>)";
     for (int i = 1; i <= 50; ++i) {
         const std::string use = "<use xlink:href=\"#d" + std::to_string(i - 1) + "\"/>";
-        document += "<defs><g id=\"d" + std::to_string(i) + "\">" + use + use + "</g></defs>";
+        document += "<defs><g id=\"d" + std::to_string(i) + "\">";
+        document += use;
+        document += use;
+        document += "</g></defs>";
     }
     document += "<use xlink:href=\"#d50\"/></svg>";
     const RunResult run = Run({"-o", "out.pdf"}, document);

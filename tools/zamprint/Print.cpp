@@ -33,6 +33,9 @@ void RefuseOwnInput(const Options& options) {
 
 void WriteJson(const Document& document, std::ostream& out) {
     const ZAMRef<ZAMPrtModel> model = ZAMNew<ZAMPrtModel>();
+    if (!model) {
+        throw std::bad_alloc();
+    }
     ZAMPrintSVG2Interpreter interpreter(&document.GetRoot());
     interpreter.SetCurrentPath(document.GetPath().c_str());
     ZAMPrintSVGModelDriver driver(model.Get());
