@@ -34,7 +34,7 @@ template <class SetUp> std::string DecodeToJson(std::string_view document, SetUp
     ZAMPrintSVG2Interpreter decoder(&root);
     setUp(decoder);
     ZAMPrintSVGModelDriver driver(model.Get());
-    return decoder.Decode(&driver) == 1 ? ToJson(*model) : "not decoded";
+    return model && decoder.Decode(&driver) == 1 ? ToJson(*model) : "not decoded";
 }
 inline std::string DecodeToJson(std::string_view document) {
     return DecodeToJson(document, [](const auto&) {});
