@@ -83,6 +83,19 @@ ZAMPrintCairoCanvas::ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, ZA
     : _Context(cairo_create(surface)), _Kind(kind), _Pictures(pictures), _Page{0.0, 0.0, width * scale, height * scale},
       _Scale(scale) {}
 
+/// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more
+/// rectangles it consists of: a page of 100,000 marks spends most of its time there. A first mark as large as the page
+/// makes the region one rectangle, to which nothing needs joining. The same rectangle twice has no interior under the
+/// even-odd rule, and its edges, which some viewers show, lie off the page: nothing is painted.
+void ZAMPrintCairoCanvas::MarkWholePage() {
+    constexpr double kOff = 10.0;
+    cairo_set_fill_rule(_Context.get(), CAIRO_FILL_RULE_EVEN_ODD);
+    for (int i = 0; i < 2; ++i) {
+        cairo_rectangle(_Context.get(), -kOff, -kOff, _Page.Width() + 2 * kOff, _Page.Height() + 2 * kOff);
+    }
+    cairo_fill(_Context.get());
+}
+
 void ZAMPrintCairoCanvas::Paint(const ZAMPrintColour& colour) {
     ZAMPrintCairoColour::SetSource(_Context.get(), colour);
     cairo_paint(_Context.get());

@@ -36,6 +36,8 @@ public:
     [[nodiscard]] const ZAMMathBox2D& GetPage() const { return _Page; }
     [[nodiscard]] ZAMMathAffine2D ToDevice(const ZAMMathAffine2D& toPage) const;
 
+    /// The first mark of a page that keeps its marks: it shows nothing and makes the others quick.
+    void MarkWholePage();
     /// Covers what the clips leave open.
     void Paint(const ZAMPrintColour& colour);
     void PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage);

@@ -7,7 +7,9 @@
 #include "generators/cairo/ZAMPrintCairoFonts.h"
 #include "generators/cairo/ZAMPrintCairoPdfOutput.h"
 #include "generators/cairo/ZAMPrintCairoPngOutput.h"
+#include "generators/cairo/ZAMPrintCairoPsOutput.h"
 #include "generators/cairo/ZAMPrintCairoStream.h"
+#include "generators/cairo/ZAMPrintCairoSvgOutput.h"
 #include "generators/cairo/ZAMPrintCairoText.h"
 
 #include <algorithm>
@@ -22,6 +24,12 @@ std::unique_ptr<ZAMPrintCairoOutput> MakeOutput(ZAMPrintCairoGenerator::Format f
     switch (format) {
     case ZAMPrintCairoGenerator::Format::Pdf:
         return std::make_unique<ZAMPrintCairoPdfOutput>(stream);
+    case ZAMPrintCairoGenerator::Format::Ps:
+        return std::make_unique<ZAMPrintCairoPsOutput>(stream, ZAMPrintCairoPsOutput::Kind::Document);
+    case ZAMPrintCairoGenerator::Format::Eps:
+        return std::make_unique<ZAMPrintCairoPsOutput>(stream, ZAMPrintCairoPsOutput::Kind::Encapsulated);
+    case ZAMPrintCairoGenerator::Format::Svg:
+        return std::make_unique<ZAMPrintCairoSvgOutput>(stream);
     case ZAMPrintCairoGenerator::Format::Png:
         break;
     }

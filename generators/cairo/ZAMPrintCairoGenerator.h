@@ -7,7 +7,8 @@
 #include <memory>
 #include <ostream>
 
-/// Draws a model with cairo: PDF (ISO 32000) or PNG (ISO 15948), written to a stream that outlives the generator.
+/// Draws a model with cairo: PDF (ISO 32000), PostScript, encapsulated PostScript, SVG 1.1 or PNG (ISO 15948), written
+/// to a stream that outlives the generator.
 ///
 /// One generator makes one document. A PDF has a page for each page of the model, of its own size, up to 14,400 points
 /// a side; one whose size differs from that of the page before it has its sides rounded up to whole points. A PNG is
@@ -15,11 +16,15 @@
 /// parameters, at least 1 and at most 32,767 pixels, 2^27 in all; more is an error of BeginPage. Without a background
 /// it is transparent.
 ///
+/// PostScript has pages as PDF has, at least a point a side; encapsulated PostScript and SVG are the first page alone,
+/// an SVG drawing of at most 100,000 points a side. None of these has links. PostScript knows no transparency: what
+/// lies under something translucent becomes pixels, 300 to the inch. Text in an SVG drawing is outlines.
+///
 /// No document can put the output into an error state: non-finite marks are left out, geometry is cut far outside the
 /// page, and singular maps paint nothing.
 class ZAM_EXPORT ZAMPrintCairoGenerator : public ZAMPrintGenerator {
 public:
-    enum class Format { Pdf, Png };
+    enum class Format { Pdf, Ps, Eps, Svg, Png };
 
     ZAMPrintCairoGenerator(Format format, std::ostream& out);
     ~ZAMPrintCairoGenerator() override;

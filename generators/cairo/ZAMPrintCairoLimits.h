@@ -102,6 +102,12 @@ inline constexpr std::size_t kPixelsForEachPicture = 256;
 inline constexpr double kLargestPdfSide = 14400.0;
 inline constexpr double kSmallestPdfSide = 1e-3;
 
+/// Cairo rounds the sides of a PostScript page to whole points and divides by them.
+inline constexpr double kSmallestPsSide = 1.0;
+
+/// Sides of an SVG drawing in points, so far within cairo's coordinates that what surrounds the drawing is, too.
+inline constexpr double kLargestSvgSide = 100000.0;
+
 /// Sides and area of a picture in pixels. The first is the limit of cairo's image surfaces.
 inline constexpr double kLargestPictureSide = 32767.0;
 inline constexpr double kMostPixels = 134217728.0;

@@ -41,22 +41,8 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPdfOutput::BeginPage(double width, double heig
     }
     SetPageSize(FitSide(width), FitSide(height));
     _Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Vector, GetPictures(), width, height, 1.0);
-    MarkWholePage();
+    _Canvas->MarkWholePage();
     return &*_Canvas;
-}
-
-/// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more
-/// rectangles it consists of: a page of 100,000 marks spends most of its time there. A first mark as large as the page
-/// makes the region one rectangle, to which nothing needs joining. The same rectangle twice has no interior under the
-/// even-odd rule, and its edges, which some viewers show, lie off the page: nothing is painted.
-void ZAMPrintCairoPdfOutput::MarkWholePage() {
-    constexpr double kOff = 10.0;
-    cairo_t* context = _Canvas->GetContext();
-    cairo_set_fill_rule(context, CAIRO_FILL_RULE_EVEN_ODD);
-    for (int i = 0; i < 2; ++i) {
-        cairo_rectangle(context, -kOff, -kOff, _Width + 2 * kOff, _Height + 2 * kOff);
-    }
-    cairo_fill(context);
 }
 
 void ZAMPrintCairoPdfOutput::AddLink(const ZAMMathBox2D& area, std::string_view address) {

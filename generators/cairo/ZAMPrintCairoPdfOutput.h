@@ -35,7 +35,6 @@ private:
     static cairo_status_t WriteBytes(void* output, const unsigned char* bytes, unsigned int count);
     void SetPageSize(double width, double height);
     void SetMetadata(const ZAMPrintMetadata& metadata);
-    void MarkWholePage();
     void WriteTags();
 
     ZAMPrintCairoNameFilter _Filter;

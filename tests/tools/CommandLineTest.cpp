@@ -17,7 +17,7 @@ TEST_F(CommandLineTest, WrongUsageIsOneLineAndNoOutput) {
         {{"a.svg", "-o", ""}, "--output"},
         {{"a.svg", "-o", "a.svg"}, "replace the input"},
         {{"a.svg", "-o", "link.svg"}, "replace the input"},
-        {{"a.svg", "-f", "tiff"}, "pdf, png, json"},
+        {{"a.svg", "-f", "tiff"}, "pdf, ps, eps, svg, png, json"},
         {{"a.svg", "--page-size", "A4"}, "--page-size 'A4'"},
         {{"a.svg", "-w", "0"}, "-w"},
         {{"a.svg", "-w=-5"}, "-w"},

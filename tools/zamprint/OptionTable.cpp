@@ -61,9 +61,9 @@ std::string ReadMostElements(std::string_view text, Options& options) {
 
 constexpr OptionRow kOptions[] = {
     {"-o,--output", "FILE", "Write to FILE; without it, or for -, to standard output", ReadFileName},
-    {"-f,--format", "pdf|png|json", "The format; else from the ending of the output, else pdf", ReadFormat},
+    {"-f,--format", "pdf|ps|eps|svg|png|json", "The format; else from the ending of the output, else pdf", ReadFormat},
     {"--page-size", "document", "The size of a page: that of its drawing", ReadPageSize},
-    {"-w,--width", "N", "The width of a page, in pixels for png, in units of 1/90 inch for pdf",
+    {"-w,--width", "N", "The width of a page, in pixels for png, else in units of 1/90 inch",
      [](std::string_view text, Options& options) { return ReadNumber(text, kSides, options.width); }},
     {"-h,--height", "N", "The height, likewise; one of the two keeps the aspect, both fit the drawing and centre it",
      [](std::string_view text, Options& options) { return ReadNumber(text, kSides, options.height); }},

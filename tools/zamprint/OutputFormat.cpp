@@ -11,9 +11,8 @@ struct FormatRow {
 };
 
 constexpr FormatRow kFormats[] = {
-    {"pdf", OutputFormat::Pdf},
-    {"png", OutputFormat::Png},
-    {"json", OutputFormat::Json},
+    {"pdf", OutputFormat::Pdf}, {"ps", OutputFormat::Ps},   {"eps", OutputFormat::Eps},
+    {"svg", OutputFormat::Svg}, {"png", OutputFormat::Png}, {"json", OutputFormat::Json},
 };
 
 } // namespace
@@ -37,9 +36,9 @@ std::string ListOutputFormats() {
 }
 
 bool HasPages(OutputFormat format) {
-    return format == OutputFormat::Pdf;
+    return format == OutputFormat::Pdf || format == OutputFormat::Ps;
 }
 
 bool IsBinary(OutputFormat format) {
-    return format != OutputFormat::Json;
+    return format != OutputFormat::Json && format != OutputFormat::Svg;
 }

@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-enum class OutputFormat { Pdf, Png, Json };
+enum class OutputFormat { Pdf, Ps, Eps, Svg, Png, Json };
 
 /// The format with this name, letter case aside. Names are also the endings of files.
 std::optional<OutputFormat> FindOutputFormat(std::string_view name);
 
-/// The names of all formats, as in "pdf, png, json".
+/// The names of all formats, as in "pdf, ps, png".
 std::string ListOutputFormats();
 
 /// Whether a file of the format holds more than one page.

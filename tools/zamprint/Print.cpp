@@ -45,10 +45,24 @@ void WriteJson(const Document& document, std::ostream& out) {
     ZAMPrtWriteModelAsJson(*model, out);
 }
 
+ZAMPrintCairoGenerator::Format ToGeneratorFormat(OutputFormat format) {
+    using Format = ZAMPrintCairoGenerator::Format;
+    switch (format) {
+    case OutputFormat::Ps:
+        return Format::Ps;
+    case OutputFormat::Eps:
+        return Format::Eps;
+    case OutputFormat::Svg:
+        return Format::Svg;
+    case OutputFormat::Png:
+        return Format::Png;
+    default:
+        return Format::Pdf;
+    }
+}
+
 void WritePages(const Document& document, const Options& options, OutputFile& output) {
-    const auto format = options.GetFormat() == OutputFormat::Png ? ZAMPrintCairoGenerator::Format::Png
-                                                                 : ZAMPrintCairoGenerator::Format::Pdf;
-    ZAMPrintCairoGenerator generator(format, output.GetStream());
+    ZAMPrintCairoGenerator generator(ToGeneratorFormat(options.GetFormat()), output.GetStream());
     PagePrinter printer(generator, options);
     if (!printer.Print(document) || !printer.Finish()) {
         // A full disk is the output's failure, and the system says it best.

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "generators/cairo/ZAMPrintCairoPsOutput.h"
+
+#include "generators/cairo/ZAMPrintCairoFailure.h"
+#include "generators/cairo/ZAMPrintCairoLimits.h"
+#include "generators/cairo/ZAMPrintCairoMetadata.h"
+
+#include <algorithm>
+#include <cairo-ps.h>
+
+namespace {
+
+constexpr std::string_view kHeaderEnd = "%%EndComments\n";
+constexpr double kFallbackResolution = 300.0; // pixels to the inch
+
+/// As a text of a comment (DSC 3.0, 4.6): one line of printable ASCII, of which cairo takes 255 bytes with the key.
+std::string ToComment(std::string_view text) {
+    constexpr std::size_t kMost = 200;
+    std::string comment;
+    for (const char c : text.substr(0, kMost)) {
+        comment += c >= ' ' && c <= '~' ? c : c == '\n' || c == '\t' ? ' ' : '?';
+    }
+    return comment;
+}
+
+double FitSide(double side) {
+    return std::clamp(side, ZAMPrintCairoLimits::kSmallestPsSide, ZAMPrintCairoLimits::kLargestPdfSide);
+}
+
+} // namespace
+
+ZAMPrintCairoPsOutput::ZAMPrintCairoPsOutput(ZAMPrintCairoStream& stream, Kind kind)
+    : ZAMPrintCairoOutput(stream, true), _Kind(kind),
+      _Filter(stream, kHeaderEnd, [this](std::string& header) { EditHeader(header); }) {}
+
+double ZAMPrintCairoPsOutput::GetLargestPageSide() const {
+    return ZAMPrintCairoLimits::kLargestPdfSide;
+}
+
+void ZAMPrintCairoPsOutput::BeginDocument(const ZAMPrintParameters& parameters) {
+    _Metadata = parameters.metadata;
+}
+
+ZAMPrintCairoCanvas* ZAMPrintCairoPsOutput::BeginPage(double width, double height) {
+    constexpr double kRounding = 1.0 + 1e-9;
+    if (std::max(width, height) > ZAMPrintCairoLimits::kLargestPdfSide * kRounding) {
+        throw ZAMPrintCairoFailure("a page of " + FormatLength(width) + " x " + FormatLength(height) +
+                                   " points is too large: PostScript pages have 14,400 points a side at most");
+    }
+    if (_Surface == nullptr) {
+        MakeSurface(FitSide(width), FitSide(height));
+    } else if (_Kind == Kind::Encapsulated) {
+        return nullptr;
+    } else {
+        cairo_ps_surface_set_size(_Surface.get(), FitSide(width), FitSide(height));
+    }
+    Check(cairo_surface_status(_Surface.get()));
+    _Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Vector, GetPictures(), width, height, 1.0);
+    _Canvas->MarkWholePage();
+    return &*_Canvas;
+}
+
+void ZAMPrintCairoPsOutput::EndPage() {
+    if (_Canvas) {
+        cairo_t* context = _Canvas->GetContext();
+        cairo_show_page(context);
+        Check(cairo_status(context));
+        _Canvas.reset();
+        GetPictures().EndPage();
+        Check(cairo_surface_status(_Surface.get()));
+    }
+}
+
+void ZAMPrintCairoPsOutput::EndDocument() {
+    cairo_surface_finish(_Surface.get());
+    _Filter.Flush();
+    Check(cairo_surface_status(_Surface.get()));
+}
+
+cairo_status_t ZAMPrintCairoPsOutput::WriteBytes(void* output, const unsigned char* bytes, unsigned int count) {
+    try {
+        auto& filter = static_cast<ZAMPrintCairoPsOutput*>(output)->_Filter;
+        return filter.Write({reinterpret_cast<const char*>(bytes), count}) ? CAIRO_STATUS_SUCCESS
+                                                                           : CAIRO_STATUS_WRITE_ERROR;
+    } catch (...) {
+        return CAIRO_STATUS_NO_MEMORY;
+    }
+}
+
+void ZAMPrintCairoPsOutput::MakeSurface(double width, double height) {
+    _Surface.reset(cairo_ps_surface_create_for_stream(WriteBytes, this, width, height));
+    cairo_ps_surface_set_eps(_Surface.get(), _Kind == Kind::Encapsulated ? 1 : 0);
+    cairo_surface_set_fallback_resolution(_Surface.get(), kFallbackResolution, kFallbackResolution);
+    WriteComment("%%Title: ", _Metadata.title);
+    WriteComment("%%For: ", _Metadata.author);
+}
+
+void ZAMPrintCairoPsOutput::WriteComment(std::string_view key, std::string_view text) {
+    if (!text.empty()) {
+        cairo_ps_surface_dsc_comment(_Surface.get(), std::string(key).append(ToComment(text)).c_str());
+    }
+}
+
+/// Cairo writes its own name and the time of day.
+void ZAMPrintCairoPsOutput::EditHeader(std::string& header) const {
+    const auto replace = [&header](std::string_view key, std::string_view text) {
+        const std::size_t line = header.find(key);
+        if (line != std::string::npos) {
+            const std::size_t start = line + key.size();
+            header.replace(start, header.find('\n', start) - start, text);
+        }
+    };
+    replace("%%Creator: ", ZAMPrintCairoMetadata::kCreator);
+    if (_Metadata.creationTime) {
+        if (const auto calendar = ZAMPrintCairoMetadata::ToCalendar(*_Metadata.creationTime)) {
+            replace("%%CreationDate: ", ZAMPrintCairoMetadata::FormatDate(*calendar));
+        }
+    }
+}
