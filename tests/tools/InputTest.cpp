@@ -82,3 +82,24 @@ TEST_F(InputTest, TheExamplesPrintInEveryFormat) {
     }
     EXPECT_GE(count, 5);
 }
+
+TEST_F(InputTest, CompressedDocumentsAreRead) {
+    const std::string drawing = MakeDrawing("width=\"90\" height=\"45\"");
+    Write("plain.svg", drawing);
+    EXPECT_EQ(Shell("gzip -c plain.svg >a.svgz; head -c 30 plain.svg | gzip >two.svgz; tail -c +31 plain.svg | gzip "
+                    ">>two.svgz; head -c 60 a.svgz >cut.svgz; head -c 500 /dev/zero | cat a.svgz - >padded.svgz")
+                  .status,
+              0);
+    const std::string expected = Run({"plain.svg", "-f", "json"}).out;
+    for (const char* file : {"a.svgz", "two.svgz", "padded.svgz"}) {
+        const RunResult run = Run({file, "-f", "json"});
+        EXPECT_EQ(run.out, expected) << file << run.err;
+    }
+    EXPECT_EQ(Run({"-f", "json"}, Read("a.svgz")).out, expected) << "from standard input";
+    EXPECT_EQ(Run({"cut.svgz"}).err, "zamprint: cut.svgz: the compressed data is cut short\n");
+    EXPECT_EQ(Run({}, "\x1F\x8B\x08 and nothing of the kind").err,
+              "zamprint: standard input: the compressed data is damaged\n");
+    const RunResult bomb = Shell("head -c 600000000 /dev/zero | gzip -1 | $Z");
+    EXPECT_EQ(bomb.status, 1);
+    EXPECT_TRUE(Contains(bomb.err, "holds more than 512 MiB")) << bomb.err;
+}

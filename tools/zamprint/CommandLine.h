@@ -17,6 +17,8 @@ public:
     [[nodiscard]] const std::optional<std::string>& GetInformation() const { return _Information; }
 
 private:
+    void Check() const;
+
     Options _Options;
     std::optional<std::string> _Information;
 };

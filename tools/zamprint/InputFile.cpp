@@ -3,11 +3,13 @@
 
 #include "tools/zamprint/Failure.h"
 #include "tools/zamprint/FileDescriptor.h"
+#include "tools/zamprint/Inflate.h"
 #include "tools/zamprint/Options.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -59,11 +61,19 @@ std::string GetInputName(const std::string& file) {
     return file == kStandardStream ? "standard input" : file;
 }
 
+void RefuseOwnInput(const std::string& input, const std::string& output) {
+    std::error_code error;
+    if (std::filesystem::is_regular_file(output, error) &&
+        std::filesystem::equivalent(input == kStandardStream ? "/dev/stdin" : input, output, error)) {
+        throw Failure(ExitStatus::WrongUsage, output + ": the output would replace the input");
+    }
+}
+
 std::string ReadInputFile(const std::string& file) {
     const FileDescriptor descriptor(Open(file));
     std::string content;
     if (const int error = descriptor.Get() < 0 ? errno : ReadAll(descriptor.Get(), content); error != 0) {
         throw Failure::OfFile(GetInputName(file), error);
     }
-    return content;
+    return IsCompressed(content) ? Inflate(content, GetInputName(file)) : content;
 }

@@ -4,6 +4,10 @@
 #include "framework/base/ZAMNumberReading.h"
 #include "framework/base/ZAMTextCompare.h"
 #include "tools/zamprint/BackgroundColour.h"
+#include "tools/zamprint/PaperSize.h"
+
+#include <limits>
+#include <utility>
 
 namespace {
 
@@ -17,6 +21,8 @@ struct Range {
 constexpr Range kSides = {0.01, 1e6, "0.01 to 1000000"};
 constexpr Range kElements = {0.0, 1e12, "0 to 1000000000000"};
 constexpr Range kResolutions = {1.0, 4800.0, "1 to 4800"};
+constexpr Range kScales = {0.001, 1000.0, "0.001 to 1000"};
+constexpr Range kJobs = {1.0, 256.0, "1 to 256"};
 
 template <class Number> std::string ReadNumber(std::string_view text, const Range& range, Number& number) {
     double value = 0.0;
@@ -38,8 +44,53 @@ std::string ReadFormat(std::string_view text, Options& options) {
     return options.format ? "" : "must be one of " + ListOutputFormats();
 }
 
-std::string ReadPageSize(std::string_view text, Options& /*options*/) {
-    return ZAMTextMatches(text, "document") ? "" : "must be document";
+std::string ReadDirectory(std::string_view text, Options& options) {
+    options.outputDirectory = text;
+    return text.empty() ? "the name is empty" : "";
+}
+
+std::string ReadPageSize(std::string_view text, Options& options) {
+    options.paper = FindPaperSize(text);
+    return options.paper || ZAMTextMatches(text, "document")
+               ? ""
+               : "must be document, A0 to A6, Letter, Legal, Tabloid, or WIDTHxHEIGHT in mm, cm, in or pt";
+}
+
+std::string ReadMargin(std::string_view text, Options& options) {
+    const auto margin = ReadPaperLength(text);
+    options.margin = margin.value_or(0.0);
+    return margin ? "" : "must be a length in mm, cm, in or pt";
+}
+
+std::string ReadFit(std::string_view text, Options& options) {
+    constexpr std::pair<std::string_view, ZAMPrintFit> kFits[] = {
+        {"none", ZAMPrintFit::None}, {"shrink", ZAMPrintFit::Shrink}, {"page", ZAMPrintFit::Page}};
+    for (const auto& [name, fit] : kFits) {
+        if (ZAMTextMatches(name, text)) {
+            options.fit = fit;
+            return {};
+        }
+    }
+    return "must be none, shrink or page";
+}
+
+std::string ReadProgress(std::string_view text, Options& options) {
+    constexpr std::pair<std::string_view, ProgressMode> kModes[] = {
+        {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
+    for (const auto& [name, mode] : kModes) {
+        if (ZAMTextMatches(name, text)) {
+            options.progress = mode;
+            return {};
+        }
+    }
+    return "must be auto, always or never";
+}
+
+std::string ReadJobs(std::string_view text, Options& options) {
+    double number = 0.0;
+    std::string wrong = ReadNumber(text, kJobs, number);
+    options.jobs = static_cast<std::size_t>(number);
+    return wrong;
 }
 
 std::string ReadBackground(std::string_view text, Options& options) {
@@ -60,9 +111,25 @@ std::string ReadMostElements(std::string_view text, Options& options) {
 }
 
 constexpr OptionRow kOptions[] = {
-    {"-o,--output", "FILE", "Write to FILE; without it, or for -, to standard output", ReadFileName},
+    {"-o,--output", "FILE",
+     "Write to FILE; without it, or for -, to standard output. Several inputs become the pages of one PDF or PS",
+     ReadFileName},
+    {"--output-dir", "DIR", "Write an output for each input to the folder DIR, named after the input", ReadDirectory},
     {"-f,--format", "pdf|ps|eps|svg|png|json", "The format; else from the ending of the output, else pdf", ReadFormat},
-    {"--page-size", "document", "The size of a page: that of its drawing", ReadPageSize},
+    {"--page-size", "document|A0...A6|Letter|Legal|Tabloid|WxH[mm|cm|in|pt]",
+     "The size of the pages; document, or without it: that of each drawing", ReadPageSize},
+    {"--landscape", nullptr, "Turn the paper so that its long side lies below",
+     [](std::string_view /*text*/, Options& options) {
+         options.isLandscape = true;
+         return std::string();
+     }},
+    {"--margin", "L", "The margin on each side of the page: a length in mm, cm, in or pt", ReadMargin},
+    {"--fit", "none|shrink|page",
+     "Drawings on the page, always centred: at their size, smaller where they do not fit, or as large as fits; without "
+     "it, shrink on paper",
+     ReadFit},
+    {"-z,--scale", "S", "Enlarge drawings by the factor S",
+     [](std::string_view text, Options& options) { return ReadNumber(text, kScales, options.scale); }},
     {"-w,--width", "N", "The width of a page, in pixels for png, else in units of 1/90 inch",
      [](std::string_view text, Options& options) { return ReadNumber(text, kSides, options.width); }},
     {"-h,--height", "N", "The height, likewise; one of the two keeps the aspect, both fit the drawing and centre it",
@@ -77,6 +144,29 @@ constexpr OptionRow kOptions[] = {
      "How many elements may be drawn by reuse; without it, 1000000, and always 10 more for each element of the "
      "document",
      ReadMostElements},
+    {"-u,--unlimited", nullptr, "Let a document reuse as many elements as it likes",
+     [](std::string_view /*text*/, Options& options) {
+         options.mostElements = std::numeric_limits<std::size_t>::max() / 2;
+         return std::string();
+     }},
+    {"--title", "T", "The title that the output bears; without it, that of the document",
+     [](std::string_view text, Options& options) {
+         options.title = text;
+         return std::string();
+     }},
+    {"--author", "A", "The author that the output bears",
+     [](std::string_view text, Options& options) {
+         options.author = text;
+         return std::string();
+     }},
+    {"-j,--jobs", "N", "Documents at once with --output-dir; without it, as many as there are processors", ReadJobs},
+    {"--progress", "auto|always|never", "Show how far the work has come; without it, on a terminal for several inputs",
+     ReadProgress},
+    {"-q,--quiet", nullptr, "Say nothing but errors",
+     [](std::string_view /*text*/, Options& options) {
+         options.isQuiet = true;
+         return std::string();
+     }},
 };
 
 } // namespace

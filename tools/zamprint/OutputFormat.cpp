@@ -3,6 +3,8 @@
 
 #include "framework/base/ZAMTextCompare.h"
 
+#include <algorithm>
+
 namespace {
 
 struct FormatRow {
@@ -24,6 +26,10 @@ std::optional<OutputFormat> FindOutputFormat(std::string_view name) {
         }
     }
     return std::nullopt;
+}
+
+std::string_view GetFormatName(OutputFormat format) {
+    return std::ranges::find(kFormats, format, &FormatRow::format)->name;
 }
 
 std::string ListOutputFormats() {

@@ -36,28 +36,41 @@ std::string ToText(double number) {
 
 } // namespace
 
-bool PagePrinter::Print(const Document& document) {
+ZAMPrintParameters PagePrinter::MakeParameters(const Document& document) const {
     ZAMPrintParameters parameters;
+    parameters.margin = _Options.margin;
+    parameters.fit = _Options.fit.value_or(_Options.paper ? ZAMPrintFit::Shrink : ZAMPrintFit::Page);
+    // A page of the drawing's size grows with it instead.
+    parameters.scale = _Options.paper ? _Options.scale : 1.0;
     parameters.resolution = _Options.resolution;
     parameters.background = _Options.background;
-    parameters.metadata.title = document.GetTitle();
+    parameters.metadata.title = _Options.title.value_or(document.GetTitle());
+    parameters.metadata.author = _Options.author;
     parameters.metadata.subject = document.GetDescription();
     parameters.metadata.creationTime = ReadSourceDateEpoch();
+    return parameters;
+}
 
+bool PagePrinter::Print(const Document& document, const std::function<void()>& check) {
+    ZAMPrintParameters parameters = MakeParameters(document);
     const auto& drawings = document.GetDrawings();
     if (!HasPages(_Options.GetFormat()) && drawings.size() > 1) {
-        PrintMessage(document.GetName() + ": holds " + std::to_string(drawings.size()) +
-                     " drawings, and only the first one is printed: the format has one page");
-        return PrintDrawing(document, drawings.front(), parameters);
+        Tell(document.GetName() + ": holds " + std::to_string(drawings.size()) +
+             " drawings, and only the first one is printed: the format has one page");
+        return PrintDrawing(document, drawings.front(), parameters, check);
     }
     return std::all_of(drawings.begin(), drawings.end(),
-                       [&](const auto& drawing) { return PrintDrawing(document, drawing, parameters); });
+                       [&](const auto& drawing) { return PrintDrawing(document, drawing, parameters, check); });
 }
 
 bool PagePrinter::PrintDrawing(const Document& document, const ZAMLightXmlElement& drawing,
-                               ZAMPrintParameters& parameters) {
+                               ZAMPrintParameters& parameters, const std::function<void()>& check) {
     ZAMPrintSVGInterpreter interpreter(&drawing);
     interpreter.SetCurrentPath(document.GetPath().c_str());
+    float width = 0.0F;
+    float height = 0.0F;
+    static_cast<void>(interpreter.GetSize(width, height)); // reads it all
+    check();
     const ZAMMathVector2D size = FindPageSize(drawing, interpreter, _Options);
     parameters.pageWidth = size.x;
     parameters.pageHeight = size.y;
@@ -68,12 +81,18 @@ bool PagePrinter::PrintDrawing(const Document& document, const ZAMLightXmlElemen
     return true;
 }
 
+void PagePrinter::Tell(const std::string& text) const {
+    if (!_Options.isQuiet) {
+        PrintMessage(text);
+    }
+}
+
 void PagePrinter::TellOfReduction(const Document& document, const ZAMPrintParameters& parameters) const {
     const double largestSide = _Generator.GetLargestPageSide();
     const double side = std::max(parameters.pageWidth, parameters.pageHeight);
     if (side > largestSide) {
-        PrintMessage(document.GetName() + ": the page of " + ToText(parameters.pageWidth / 72) + " x " +
-                     ToText(parameters.pageHeight / 72) + " in is larger than " + ToText(largestSide / 72) +
-                     " in and was reduced to " + ToText(100 * (largestSide / side)) + " %");
+        Tell(document.GetName() + ": the page of " + ToText(parameters.pageWidth / 72) + " x " +
+             ToText(parameters.pageHeight / 72) + " in is larger than " + ToText(largestSide / 72) +
+             " in and was reduced to " + ToText(100 * (largestSide / side)) + " %");
     }
 }

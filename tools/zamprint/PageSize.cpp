@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <new>
 
 namespace {
@@ -40,6 +41,10 @@ double KeepAspect(double side, double naturalSide, double naturalResult) {
 
 ZAMMathVector2D FindPageSize(const ZAMLightXmlElement& drawing, ZAMPrintSVGInterpreter& interpreter,
                              const Options& options) {
+    if (options.paper) {
+        const ZAMMathVector2D paper = *options.paper;
+        return options.isLandscape ? ZAMMathVector2D{std::max(paper.x, paper.y), std::min(paper.x, paper.y)} : paper;
+    }
     const double unit =
         options.GetFormat() == OutputFormat::Png ? kPointsPerInch / options.resolution : kZAMPrintPointsPerUnit;
     if (options.width && options.height) {
@@ -54,5 +59,6 @@ ZAMMathVector2D FindPageSize(const ZAMLightXmlElement& drawing, ZAMPrintSVGInter
         const double height = *options.height * unit;
         return {KeepAspect(height, natural.y, natural.x), height};
     }
-    return natural;
+    constexpr double kLargest = std::numeric_limits<double>::max();
+    return {std::min(natural.x * options.scale, kLargest), std::min(natural.y * options.scale, kLargest)};
 }

@@ -3,5 +3,6 @@
 
 #include "tools/zamprint/Options.h"
 
-/// Prints the document that the options name. Throws a Failure when that cannot be done; then no output file is left.
-void Print(const Options& options);
+/// Prints the documents that the options name; whether all could be printed, the others having been told of. Throws a
+/// Failure when nothing could; then no output is left.
+bool Print(const Options& options);

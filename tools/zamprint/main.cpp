@@ -23,15 +23,15 @@ void OccupyStandardStreams() {
     }
 }
 
-void Run(int argc, const char* const* argv) {
+ExitStatus Run(int argc, const char* const* argv) {
     const CommandLine commandLine(argc, argv);
     if (const auto& information = commandLine.GetInformation()) {
         OutputFile output(kStandardStream);
         output.GetStream() << *information;
         output.Commit();
-        return;
+        return ExitStatus::Printed;
     }
-    Print(commandLine.GetOptions());
+    return Print(commandLine.GetOptions()) ? ExitStatus::Printed : ExitStatus::Failed;
 }
 
 } // namespace
@@ -43,8 +43,7 @@ int main(int argc, char** argv) {
         // A reader that has gone is a write error with a message, not a silent death.
         std::signal(SIGPIPE, SIG_IGN);
         TemporaryFile::RemoveOnSignals();
-        Run(argc, argv);
-        status = ExitStatus::Printed;
+        status = Run(argc, argv);
     } catch (const Failure& failure) {
         status = failure.GetStatus();
         PrintMessage(failure.what());

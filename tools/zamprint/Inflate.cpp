@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "tools/zamprint/Inflate.h"
+
+#include "tools/zamprint/Failure.h"
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <new>
+#include <zlib.h>
+
+namespace {
+
+constexpr std::size_t kMostBytes = std::size_t{512} << 20U;
+
+[[noreturn]] void Fail(const std::string& name, const char* reason) {
+    throw Failure(ExitStatus::Failed, name + ": " + reason);
+}
+
+// One after the other, the members of a gzip file.
+class Inflater {
+public:
+    Inflater(std::string_view bytes, const std::string& name) : _Bytes(bytes), _Name(name) {
+        constexpr int kGzipOnly = 16;
+        if (inflateInit2(&_Stream, MAX_WBITS + kGzipOnly) != Z_OK) {
+            throw std::bad_alloc();
+        }
+    }
+    Inflater(const Inflater&) = delete;
+    Inflater& operator=(const Inflater&) = delete;
+    ~Inflater() { inflateEnd(&_Stream); }
+
+    std::string Run() {
+        std::string content;
+        do {
+            ReadMember(content);
+            inflateReset(&_Stream);
+        } while (IsCompressed(_Bytes)); // what else follows is padding
+        return content;
+    }
+
+private:
+    void ReadMember(std::string& content) {
+        for (int status = Z_OK; status != Z_STREAM_END;) {
+            const std::size_t size = content.size();
+            content.resize(std::clamp<std::size_t>(2 * size, 65536, kMostBytes + 1));
+            status = Inflate(content, size);
+            if (content.size() > kMostBytes) {
+                Fail(_Name, "holds more than 512 MiB when it is decompressed");
+            }
+        }
+    }
+
+    // Appends behind `size`, to what room there is.
+    int Inflate(std::string& content, std::size_t size) {
+        constexpr std::size_t kMostAtOnce = std::numeric_limits<uInt>::max();
+        _Stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(_Bytes.data())); // it is only read
+        _Stream.avail_in = static_cast<uInt>(std::min(_Bytes.size(), kMostAtOnce));
+        _Stream.next_out = reinterpret_cast<Bytef*>(content.data() + size);
+        _Stream.avail_out = static_cast<uInt>(content.size() - size);
+        const uInt given = _Stream.avail_in;
+        const int status = inflate(&_Stream, Z_NO_FLUSH);
+        if (status == Z_MEM_ERROR) {
+            throw std::bad_alloc();
+        }
+        if (status != Z_OK && status != Z_STREAM_END) {
+            Fail(_Name, status == Z_BUF_ERROR ? "the compressed data is cut short" : "the compressed data is damaged");
+        }
+        _Bytes.remove_prefix(given - _Stream.avail_in);
+        content.resize(content.size() - _Stream.avail_out);
+        return status;
+    }
+
+    z_stream _Stream{};
+    std::string_view _Bytes; // that are still to be read
+    const std::string& _Name;
+};
+
+} // namespace
+
+bool IsCompressed(std::string_view bytes) {
+    constexpr std::string_view kStart = "\x1F\x8B";
+    return bytes.starts_with(kStart);
+}
+
+std::string Inflate(std::string_view bytes, const std::string& name) {
+    return Inflater(bytes, name).Run();
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "tools/zamprint/Progress.h"
+
+#include "tools/zamprint/Message.h"
+
+#include <unistd.h>
+
+namespace {
+
+bool IsWanted(const Options& options) {
+    if (options.isQuiet || options.progress == ProgressMode::Never) {
+        return false;
+    }
+    return options.progress == ProgressMode::Always || (options.inputs.size() > 1 && isatty(STDERR_FILENO) == 1);
+}
+
+} // namespace
+
+Progress::Progress(const Options& options) : _IsShown(IsWanted(options)), _Count(options.inputs.size()) {
+    if (_IsShown) {
+        BeginStatusLine();
+    }
+}
+
+Progress::~Progress() {
+    if (_IsShown) {
+        EndStatusLine();
+    }
+}
+
+void Progress::Advance(const std::string& name) {
+    constexpr std::size_t kWidth = 30;
+    ++_Done;
+    if (_IsShown) {
+        const std::size_t full = kWidth * _Done / _Count;
+        PrintStatus("[" + std::string(full, '#') + std::string(kWidth - full, ' ') + "] " + std::to_string(_Done) +
+                    "/" + std::to_string(_Count) + " " + name);
+    }
+}
