@@ -75,10 +75,13 @@ TEST_F(SeveralInputsTest, AreTheSameBytesTwice) {
 // What is killed leaves no unfinished output, and no processes that go on.
 TEST_F(SeveralInputsTest, EndWithASignal) {
     const RunResult run =
-        Shell("mkfifo d.svg e.svg; ($Z a.svg d.svg e.svg --output-dir out -j 2 & echo $! >pid; wait) & sleep 0.5; "
-              "ls -A out | wc -l; children=$(cat /proc/$(cat pid)/task/*/children); kill $(cat pid); sleep 0.2; "
-              "for child in $children; do grep -s '^State:' /proc/$child/status | grep -v Z; done; "
-              "echo $children | wc -w");
-    EXPECT_EQ(run.out, "3\n2\n") << "two outputs were unfinished, two processes at work";
+        Shell("until_it() { for i in $(seq 100); do eval \"$1\" && return; sleep 0.05; done; }\n"
+              "mkfifo d.svg e.svg; ($Z a.svg d.svg e.svg --output-dir out -j 2 & echo $! >pid; wait) & "
+              "until_it '[ \"$(ls -A out 2>/dev/null | wc -l)\" = 3 ]'; "
+              "children=$(cat /proc/$(cat pid)/task/*/children); kill $(cat pid); "
+              "until_it '! ls -A out | grep -q zamprint'; "
+              "for child in $children; do until_it \"! grep -s '^State:' /proc/$child/status | grep -qv Z\" || "
+              "echo $child lives; done; echo $children | wc -w");
+    EXPECT_EQ(run.out, "2\n") << "two processes were at work";
     EXPECT_EQ(List("out"), Arguments{"a.pdf"});
 }
