@@ -2,6 +2,7 @@
 #include "tests/tools/ToolTest.h"
 
 #include <algorithm>
+#include <sstream>
 
 class CommandLineTest : public ToolTest {};
 
@@ -90,4 +91,41 @@ TEST_F(CommandLineTest, TheFormatComesFromTheOptionElseTheEnding) {
         EXPECT_EQ(run.out + run.err, "");
         EXPECT_TRUE(Read(row.file).starts_with(row.start)) << row.file;
     }
+}
+
+TEST_F(CommandLineTest, EverythingThatTellsOfOptionsTellsOfAll) {
+    const std::string manual = Run({"--manual"}).out;
+    const std::string help = Run({"--help"}).out;
+    const std::string shells[] = {Run({"--completion", "bash"}).out, Run({"--completion", "zsh"}).out,
+                                  Run({"--completion", "fish"}).out};
+    int options = 0;
+    std::istringstream lines(help);
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t at = line.starts_with("  -") ? line.find("--") : std::string::npos;
+        if (at == std::string::npos) {
+            continue;
+        }
+        const std::string name = line.substr(at + 2, line.find(' ', at) - at - 2);
+        std::string escaped = name;
+        for (std::size_t minus = 0; (minus = escaped.find('-', minus)) != std::string::npos; minus += 2) {
+            escaped.insert(minus, 1, '\\');
+        }
+        ++options;
+        EXPECT_TRUE(Contains(manual, "\\-\\-" + escaped)) << name;
+        for (const std::string& script : shells) {
+            EXPECT_TRUE(Contains(script, name)) << name << "\n" << script;
+        }
+    }
+    EXPECT_GT(options, 20);
+    Write("complete", shells[0]);
+    const auto complete = [&](const std::string& before, const std::string& word) {
+        return Shell("bash -c '. ./complete; COMP_WORDS=(zamprint " + before + " \"" + word +
+                     "\"); COMP_CWORD=2; _zamprint; echo ${COMPREPLY[*]}'")
+            .out;
+    };
+    EXPECT_EQ(complete("-f", "p"), "pdf ps png\n");
+    EXPECT_EQ(complete("-q", "--pag"), "--page-size\n");
+    Write("drawing.svg", "");
+    Write("drawing.txt", "");
+    EXPECT_EQ(complete("-q", "d"), "drawing.svg\n");
 }

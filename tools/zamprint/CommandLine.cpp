@@ -35,26 +35,28 @@ CommandLine::CommandLine(int argc, const char* const* argv) {
         "zamprint");
     // Before the options: -h, which is the height here, is the library's own letter for the help.
     app.set_help_flag("--help", "Print this help");
-    app.set_version_flag("--version", "zamprint " ZAM_VERSION, "Print the version");
     app.add_option("FILE", _Options.inputs,
                    "SVG documents, also compressed ones (svgz); without any, or for -, standard input")
         ->type_name("");
     for (const OptionRow& row : GetOptionTable()) {
         AddOption(app, row, _Options);
     }
+    for (const OptionRow& row : GetInformationTable()) {
+        if (row.read != nullptr) {
+            AddOption(app, row, _Options);
+        }
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
-        _Information = app.help();
-    } catch (const CLI::CallForVersion& version) {
-        _Information = std::string(version.what()) + "\n";
+        _Options.information = app.help();
     } catch (const CLI::ParseError& error) {
         throw Failure(ExitStatus::WrongUsage, std::string(error.what()) + "; see zamprint --help");
     }
     if (_Options.inputs.empty()) {
         _Options.inputs.emplace_back(kStandardStream);
     }
-    if (!_Information) {
+    if (!_Options.information) {
         Check();
     }
 }

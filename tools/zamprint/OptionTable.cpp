@@ -4,6 +4,8 @@
 #include "framework/base/ZAMNumberReading.h"
 #include "framework/base/ZAMTextCompare.h"
 #include "tools/zamprint/BackgroundColour.h"
+#include "tools/zamprint/Completion.h"
+#include "tools/zamprint/Manual.h"
 #include "tools/zamprint/PaperSize.h"
 
 #include <limits>
@@ -116,8 +118,9 @@ constexpr OptionRow kOptions[] = {
      ReadFileName},
     {"--output-dir", "DIR", "Write an output for each input to the folder DIR, named after the input", ReadDirectory},
     {"-f,--format", "pdf|ps|eps|svg|png|json", "The format; else from the ending of the output, else pdf", ReadFormat},
-    {"--page-size", "document|A0...A6|Letter|Legal|Tabloid|WxH[mm|cm|in|pt]",
-     "The size of the pages; document, or without it: that of each drawing", ReadPageSize},
+    {"--page-size", "document|A0|A1|A2|A3|A4|A5|A6|Letter|Legal|Tabloid|WxH...",
+     "The size of the pages, also as in 210x297mm, in mm, cm, in or pt; without it, that of each drawing",
+     ReadPageSize},
     {"--landscape", nullptr, "Turn the paper so that its long side lies below",
      [](std::string_view /*text*/, Options& options) {
          options.isLandscape = true;
@@ -169,8 +172,32 @@ constexpr OptionRow kOptions[] = {
      }},
 };
 
+constexpr OptionRow kInformation[] = {
+    {"--manual", nullptr, "Print the manual page, for man",
+     [](std::string_view /*text*/, Options& options) {
+         options.information = WriteManual();
+         return std::string();
+     }},
+    {"--completion", "bash|zsh|fish", "Print the script that lets the shell complete options",
+     [](std::string_view text, Options& options) {
+         options.information = WriteCompletion(text);
+         return std::string(options.information ? "" : "must be bash, zsh or fish");
+     }},
+    {"--version", nullptr, "Print the version",
+     [](std::string_view /*text*/, Options& options) {
+         options.information = "zamprint " ZAM_VERSION "\n";
+         return std::string();
+     }},
+    // Its text is the command line's own.
+    {"--help", nullptr, "Print this help", nullptr},
+};
+
 } // namespace
 
 std::span<const OptionRow> GetOptionTable() {
     return kOptions;
+}
+
+std::span<const OptionRow> GetInformationTable() {
+    return kInformation;
 }

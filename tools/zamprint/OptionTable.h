@@ -17,5 +17,8 @@ struct OptionRow {
     std::string (*read)(std::string_view text, Options& options);
 };
 
-/// All options but --help and --version, in the order of the help.
+/// The options of a print, in the order of the help.
 std::span<const OptionRow> GetOptionTable();
+
+/// The options that ask for a text instead of a print: they put it into Options::information.
+std::span<const OptionRow> GetInformationTable();

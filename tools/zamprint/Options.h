@@ -41,7 +41,8 @@ struct Options {
     std::string author;
     std::size_t jobs = 0; ///< documents at once; 0 for as many as there are processors
     ProgressMode progress = ProgressMode::Auto;
-    bool isQuiet = false; ///< no messages but errors, and no progress
+    std::optional<std::string> information; ///< a text that is asked for instead of a print
+    bool isQuiet = false;                   ///< no messages but errors, and no progress
 
     /// The format asked for, else the one that the output's ending names, else PDF.
     [[nodiscard]] OutputFormat GetFormat() const {

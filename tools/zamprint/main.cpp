@@ -25,7 +25,7 @@ void OccupyStandardStreams() {
 
 ExitStatus Run(int argc, const char* const* argv) {
     const CommandLine commandLine(argc, argv);
-    if (const auto& information = commandLine.GetInformation()) {
+    if (const auto& information = commandLine.GetOptions().information) {
         OutputFile output(kStandardStream);
         output.GetStream() << *information;
         output.Commit();
