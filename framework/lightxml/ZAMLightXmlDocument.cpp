@@ -28,8 +28,8 @@ char* ZAMLightXmlDocument::Reserve(std::size_t size) {
 }
 
 std::string_view ZAMLightXmlDocument::Keep(std::string_view text) {
-    if (text.empty()) {
-        return {};
+    if (_Shared != nullptr || text.empty()) {
+        return text;
     }
     char* const copy = Reserve(text.size());
     std::memcpy(copy, text.data(), text.size());
@@ -38,6 +38,9 @@ std::string_view ZAMLightXmlDocument::Keep(std::string_view text) {
 
 // A direct-mapped table of the names met last: nearly every name of a document is kept once.
 std::string_view ZAMLightXmlDocument::KeepName(std::string_view name) {
+    if (_Shared != nullptr) {
+        return name;
+    }
     if (_RecentNames.empty()) {
         _RecentNames.resize(kRecentNames);
     }
@@ -62,6 +65,7 @@ void ZAMLightXmlDocument::OpenElement(std::string_view name, std::uint32_t line,
         OpenNode& parent = _Open.back();
         (parent.lastChild == kNone ? _Nodes[parent.node].firstChild : _Nodes[parent.lastChild].nextSibling) = number;
         parent.lastChild = number;
+        ++parent.childCount;
     }
     _Open.push_back({number});
 }
@@ -78,8 +82,8 @@ bool ZAMLightXmlDocument::ExtendsLastText(const OpenNode& open) const {
     if (open.lastText == kNone || open.lastText + 1 != _Texts.size()) {
         return false;
     }
-    const std::string_view last = _Texts.back().data;
-    return last.data() + last.size() == _Free;
+    const Text& last = _Texts.back();
+    return last.childrenBefore == open.childCount && last.data.data() + last.data.size() == _Free;
 }
 
 void ZAMLightXmlDocument::AddText(std::string_view data) {
@@ -94,7 +98,7 @@ void ZAMLightXmlDocument::AddText(std::string_view data) {
         return;
     }
     const auto number = static_cast<std::uint32_t>(_Texts.size());
-    _Texts.push_back({Keep(data)});
+    _Texts.push_back({Keep(data), open.childCount});
     (open.lastText == kNone ? _Nodes[open.node].firstText : _Texts[open.lastText].next) = number;
     open.lastText = number;
 }

@@ -23,6 +23,7 @@ public:
     /// A run of character data; the runs of an element form a list.
     struct Text {
         std::string_view data;
+        std::uint32_t childrenBefore = 0; ///< elements of the same parent that come before it
         std::uint32_t next = kNone;
     };
     struct Node {
@@ -37,7 +38,12 @@ public:
         std::uint32_t column = 0;
     };
 
-    /// Opens an element inside the one that is open now (the first is the root). All texts are copied.
+    /// A document that copies the texts it is given.
+    ZAMLightXmlDocument() = default;
+    /// A document whose texts are parts of `texts`, which it keeps alive: it does not copy them.
+    explicit ZAMLightXmlDocument(std::shared_ptr<const void> texts) : _Shared(std::move(texts)) {}
+
+    /// Opens an element inside the one that is open now (the first is the root).
     void OpenElement(std::string_view name, std::uint32_t line, std::uint32_t column);
     /// To the element opened last, before it gets children.
     void AddAttribute(std::string_view name, std::string_view value);
@@ -60,6 +66,7 @@ private:
         std::uint32_t node;
         std::uint32_t lastChild = kNone;
         std::uint32_t lastText = kNone;
+        std::uint32_t childCount = 0;
     };
 
     char* Reserve(std::size_t size);
@@ -74,5 +81,6 @@ private:
     std::vector<std::unique_ptr<char[]>> _Chunks;
     char* _Free = nullptr;
     std::size_t _FreeSize = 0;
+    std::shared_ptr<const void> _Shared;        // what texts are views into; null when they are copied
     std::vector<std::string_view> _RecentNames; // few names make up a document; see KeepName
 };

@@ -64,6 +64,21 @@ ZAMUnicodeString ZAMLightXmlElement::GetTextContent() const {
     return ZAMUnicodeString(std::string_view(content));
 }
 
+// The position of a run is its number, counted from 1.
+ZAMLightXmlPosition ZAMLightXmlElement::GetFirstTextPosition() const {
+    const std::uint32_t first = _Document ? _Document->GetNode(_Node).firstText : ZAMLightXmlDocument::kNone;
+    return first == ZAMLightXmlDocument::kNone ? 0 : ZAMLightXmlPosition{first} + 1;
+}
+
+ZAMLightXmlElementItf::TextRun ZAMLightXmlElement::GetNextText(ZAMLightXmlPosition& position) const {
+    if (!_Document || position == 0) {
+        return {};
+    }
+    const auto& text = _Document->GetText(static_cast<std::uint32_t>(position - 1));
+    position = text.next == ZAMLightXmlDocument::kNone ? 0 : ZAMLightXmlPosition{text.next} + 1;
+    return {text.data, text.childrenBefore};
+}
+
 std::uint32_t ZAMLightXmlElement::GetLine() const {
     return _Document ? _Document->GetNode(_Node).line : 0;
 }

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] ZAMLightXmlPosition GetFirstChildPosition() const override;
     [[nodiscard]] ZAMLightXmlElement GetNextChild(ZAMLightXmlPosition& position) const override;
     [[nodiscard]] ZAMUnicodeString GetTextContent() const override;
+    [[nodiscard]] ZAMLightXmlPosition GetFirstTextPosition() const override;
+    [[nodiscard]] TextRun GetNextText(ZAMLightXmlPosition& position) const override;
     [[nodiscard]] std::uint32_t GetLine() const override;
     [[nodiscard]] std::uint32_t GetColumn() const override;
 

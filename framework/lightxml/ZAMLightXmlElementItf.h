@@ -45,6 +45,16 @@ public:
     /// The element's own character data, CDATA included, in document order, without that of its child elements.
     [[nodiscard]] virtual ZAMUnicodeString GetTextContent() const = 0;
 
+    /// A run of character data among the child elements; runs with the same count follow one another.
+    struct TextRun {
+        std::string_view text;
+        std::size_t childrenBefore; ///< so many of the element's children come before it
+    };
+    /// The position of the first run of character data, 0 when there is none.
+    [[nodiscard]] virtual ZAMLightXmlPosition GetFirstTextPosition() const = 0;
+    /// The run at `position`, which moves on to the next one. An empty run when `position` is 0.
+    [[nodiscard]] virtual TextRun GetNextText(ZAMLightXmlPosition& position) const = 0;
+
     /// Where the element's start tag stands in the document, from 1; 0 when unknown. Columns count characters.
     [[nodiscard]] virtual std::uint32_t GetLine() const = 0;
     [[nodiscard]] virtual std::uint32_t GetColumn() const = 0;
