@@ -97,7 +97,7 @@ function(zam_add_readme_program)
     set(program ${PROJECT_BINARY_DIR}/readme.cpp)
     file(CONFIGURE OUTPUT ${program} CONTENT "${CMAKE_MATCH_1}" @ONLY)
     add_executable(readme ${program})
-    target_link_libraries(readme PRIVATE zam_flags ZAMPrtInterpreterSVG ZAMPrintCairo)
+    target_link_libraries(readme PRIVATE zam_flags ZAMPrtInterpreterSVG ZAMPrintPrepress ZAMPrintCairo)
 endfunction()
 
 # zam_add_fuzzer(<name> LINKS <library>...)

@@ -66,7 +66,7 @@ TEST_F(InputTest, StandardInputAndAPipeGiveWhatTheFileGives) {
 
 TEST_F(InputTest, TheExamplesPrintInEveryFormat) {
     int count = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(ZAM_SOURCE_DIR "/examples")) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(ZAM_SOURCE_DIR "/examples")) {
         const std::string file = entry.path();
         if (!file.ends_with(".svg")) {
             continue;

@@ -82,6 +82,25 @@ TEST_F(ReuseTest, PictureFilesAreThoseOfTheDocumentsFolder) {
     EXPECT_EQ(Run({"--allow-files", "some"}, drawing).status, 2);
 }
 
+// The tiles of patterns are drawn while the document is prepared.
+TEST_F(ReuseTest, PatternsSeeTheSameFiles) {
+    std::filesystem::create_directories("inner");
+    Write("outside.bmp", DecodeBase64(kBitmap));
+    const auto pixels = [&](const std::string& file) {
+        Write("inner/drawing.svg",
+              "<svg width='9' height='9'><pattern id='p' width='4' height='4' patternUnits='userSpaceOnUse'>"
+              "<rect width='1' height='1'/><image width='4' height='4' preserveAspectRatio='none' xlink:href='" +
+                  file + "'/></pattern><rect width='9' height='9' fill='url(#p)'/></svg>");
+        const RunResult run = Run({"-f", "png", "inner/drawing.svg"});
+        EXPECT_EQ(run.status, 0) << run.err;
+        return run.out;
+    };
+    const std::string outside = pixels("../outside.bmp");
+    EXPECT_EQ(outside, pixels("absent.bmp"));
+    Write("inner/inside.bmp", DecodeBase64(kBitmap));
+    EXPECT_NE(outside, pixels("inside.bmp"));
+}
+
 TEST_F(ReuseTest, TheSamePictureIsStoredOnceInThePdf) {
     std::string document = R"(<svg width="100" height="100"><defs><image id="p" width="2" height="1" xlink:href=")";
     document += std::string("data:image/bmp;base64,") + kBitmap + "\"/></defs>";

@@ -4,9 +4,11 @@
 #include "framework/base/ZAMTextCompare.h"
 #include "framework/lightxml/ZAMLightXmlInputStreamBuffer.h"
 #include "framework/lightxml/ZAMLightXmlParser.h"
+#include "prepress/ZAMPrepress.h"
 #include "tools/zamprint/Failure.h"
 #include "tools/zamprint/InputFile.h"
 #include "tools/zamprint/Options.h"
+#include "tools/zamprint/TileRenderer.h"
 
 #include <sstream>
 
@@ -37,9 +39,12 @@ std::string CollapseWhiteSpace(const std::string& text) {
 
 } // namespace
 
-Document::Document(const std::string& file)
-    : _Name(GetInputName(file)), _Path(file == kStandardStream ? std::string() : file) {
+Document::Document(const std::string& file, bool isPrepared) : _Name(GetInputName(file)), _Path(PathOf(file)) {
     Parse(ReadInputFile(file));
+    if (isPrepared) {
+        TileRenderer renderer(_Path);
+        _Root = ZAMPrepress::Prepare(_Root, &renderer, _Path);
+    }
     if (ZAMTextMatches(_Root.GetName(), "svg")) {
         _Drawings.push_back(_Root);
     } else {
@@ -48,6 +53,10 @@ Document::Document(const std::string& file)
     if (_Drawings.empty()) {
         throw Failure(ExitStatus::Failed, _Name + ": holds no svg element");
     }
+}
+
+std::string Document::PathOf(const std::string& file) {
+    return file == kStandardStream ? std::string() : file;
 }
 
 void Document::Parse(const std::string& content) {

@@ -10,12 +10,14 @@
 class Document {
 public:
     /// Reads and parses a file, or standard input for "-". Throws a Failure when it cannot be read, is no well-formed
-    /// XML, or holds no drawing.
-    explicit Document(const std::string& file);
+    /// XML, or holds no drawing. A prepared document says the same in words that the interpreter draws rightly.
+    Document(const std::string& file, bool isPrepared);
+
+    /// Where the relative references of a document in that file start from; empty for standard input.
+    [[nodiscard]] static std::string PathOf(const std::string& file);
 
     /// What messages call it.
     [[nodiscard]] const std::string& GetName() const { return _Name; }
-    /// Where its relative references start from; empty for standard input.
     [[nodiscard]] const std::string& GetPath() const { return _Path; }
     [[nodiscard]] const ZAMLightXmlElement& GetRoot() const { return _Root; }
     /// The root when it is an svg element, else those of its children that are one; each is a page.

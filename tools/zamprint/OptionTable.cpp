@@ -112,6 +112,11 @@ std::string ReadMostElements(std::string_view text, Options& options) {
     return wrong;
 }
 
+std::string ReadPrepress(std::string_view text, Options& options) {
+    options.isPrepared = ZAMTextMatches(text, "on");
+    return options.isPrepared || ZAMTextMatches(text, "off") ? "" : "must be on or off";
+}
+
 constexpr OptionRow kOptions[] = {
     {"-o,--output", "FILE",
      "Write to FILE; without it, or for -, to standard output. Several inputs become the pages of one PDF or PS",
@@ -147,6 +152,8 @@ constexpr OptionRow kOptions[] = {
      "How many elements may be drawn by reuse; without it, 1000000, and always 10 more for each element of the "
      "document",
      ReadMostElements},
+    {"--prepress", "on|off", "Rewrite the document into what is drawn rightly before it is read; on without it",
+     ReadPrepress},
     {"-u,--unlimited", nullptr, "Let a document reuse as many elements as it likes",
      [](std::string_view /*text*/, Options& options) {
          options.mostElements = std::numeric_limits<std::size_t>::max() / 2;

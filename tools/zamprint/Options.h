@@ -37,6 +37,7 @@ struct Options {
     std::optional<ZAMPrintColour> background;
     AllowedFiles allowedFiles = AllowedFiles::Document;
     std::size_t mostElements = ZAMAllocationBudget::kElements; ///< that are reused, besides 10 for each that is read
+    bool isPrepared = true; ///< documents are rewritten before they are interpreted
     std::optional<std::string> title;                          ///< else the document's
     std::string author;
     std::size_t jobs = 0; ///< documents at once; 0 for as many as there are processors

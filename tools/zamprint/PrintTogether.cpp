@@ -38,9 +38,11 @@ void RefuseSpent(const Document& document, const ZAMAllocationBudget& budget) {
 }
 
 void WriteJson(const std::string& input, const Options& options, std::ostream& out) {
+    // Preparing a document reads pictures and reuses elements, too.
+    const ZAMFileAccessPolicy policy = MakePolicy(options.allowedFiles, Document::PathOf(input));
     const ZAMAllocationBudget budget(options.mostElements);
-    const Document document(input);
-    const ZAMFileAccessPolicy policy = MakePolicy(options.allowedFiles, document.GetPath());
+    const Document document(input, options.isPrepared);
+    RefuseSpent(document, budget);
     const ZAMRef<ZAMPrtModel> model = ZAMNew<ZAMPrtModel>();
     if (!model) {
         throw std::bad_alloc();
@@ -64,9 +66,9 @@ public:
 
     // Throws a Failure; GetError then says whether the output can go on.
     void Add(const std::string& input) {
+        const ZAMFileAccessPolicy policy = MakePolicy(_Options.allowedFiles, Document::PathOf(input));
         const ZAMAllocationBudget budget(_Options.mostElements);
-        const Document document(input);
-        const ZAMFileAccessPolicy policy = MakePolicy(_Options.allowedFiles, document.GetPath());
+        const Document document(input, _Options.isPrepared);
         if (!_Printer.Print(document, [&] { RefuseSpent(document, budget); })) {
             Fail(document.GetName());
         }

@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "prepress/ZAMPrepressTileRenderer.h"
+
+ZAMPrepressTileRenderer::~ZAMPrepressTileRenderer() = default;
