@@ -78,9 +78,9 @@ TEST_F(InputTest, TheExamplesPrintInEveryFormat) {
         EXPECT_TRUE(Contains(CheckPdf(pdf.out), "Pages:           1\n"));
         EXPECT_EQ(Picture(Run({"-f", "png", "-w", "300", file}).out).width, 300U);
         const auto model = nlohmann::json::parse(Run({"-f", "json", file}).out);
-        EXPECT_GT(model["images"][0]["children"].size(), 3U);
+        EXPECT_FALSE(model["images"][0]["children"].empty());
     }
-    EXPECT_GE(count, 5);
+    EXPECT_GE(count, 20);
 }
 
 TEST_F(InputTest, CompressedDocumentsAreRead) {
