@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const ZAMAllocationBudget budget(kReusedElements);
     const ZAMLightXmlElement prepared = ZAMPrepress::Prepare(root);
     const auto model = ZAMNew<ZAMPrtModel>();
-    if (model != nullptr) {
+    if (model) {
         ZAMPrintSVGModelDriver driver(model.Get());
         ZAMPrintSVG2Interpreter(&prepared).Decode(&driver);
     }
