@@ -4,9 +4,13 @@
 #include "prepress/document/ZAMPrepressIds.h"
 #include "prepress/document/ZAMPrepressSearch.h"
 #include "prepress/geometry/ZAMPrepressLength.h"
+#include "prepress/paint/ZAMPrepressDataReference.h"
+#include "prepress/paint/ZAMPrepressPictureFile.h"
+#include "prepress/paint/ZAMPrepressPictureHeader.h"
 #include "prepress/rewrites/ZAMPrepressClipOutline.h"
 
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -22,12 +26,14 @@ public:
 
 private:
     void FindCut(ZAMPrepressElement& element);
+    [[nodiscard]] bool IsReadable(const ZAMPrepressElement& image);
     ZAMPrepressElement& Replace(ZAMPrepressElement& image);
 
     ZAMPrepressTree& _Tree;
     ZAMPrepressIds _Ids;
     ZAMPrepressClipRegion _Clips{_Ids};
-    std::unordered_set<const ZAMPrepressElement*> _Cut; // what covers the shape that clips it
+    std::unordered_set<const ZAMPrepressElement*> _Cut;   // what covers the shape that clips it
+    std::unordered_map<std::string_view, bool> _Readable; // by reference
 };
 
 bool IsFaded(const ZAMPrepressElement& element) {
@@ -40,6 +46,20 @@ void Rewriter::FindCut(ZAMPrepressElement& element) {
     }
 }
 
+// A fill without a picture would show its colour, where an image shows nothing.
+bool Rewriter::IsReadable(const ZAMPrepressElement& image) {
+    const std::string_view reference = image.Get(kReference);
+    const auto [known, isNew] = _Readable.try_emplace(reference, false);
+    if (isNew && ZAMPrepressIsDataReference(reference)) {
+        const auto bytes = ZAMPrepressReadDataReference(reference);
+        known->second = bytes && ZAMPrepressPictureHeader::Read(*bytes).width > 0.0;
+    } else if (isNew) {
+        const auto file = ZAMPrepressPictureFile::Find(reference, _Tree.GetPath());
+        known->second = file && ZAMPrepressPictureHeader::Read(file->bytes).width > 0.0;
+    }
+    return known->second;
+}
+
 // The images of patterns are as they should be.
 void Rewriter::RewriteChildren(ZAMPrepressElement& element) {
     std::vector<ZAMPrepressElement*> children;
@@ -47,7 +67,7 @@ void Rewriter::RewriteChildren(ZAMPrepressElement& element) {
         if (child->Has("clip-path")) {
             FindCut(*child);
         }
-        if (child->Is("image") && (IsFaded(*child) || _Cut.contains(child))) {
+        if (child->Is("image") && (IsFaded(*child) || _Cut.contains(child)) && IsReadable(*child)) {
             children.push_back(&Replace(*child));
         } else if (!child->Is("pattern")) {
             RewriteChildren(*child);
