@@ -40,9 +40,7 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPdfOutput::BeginPage(double width, double heig
                                    " points is too large: PDF allows 14,400 points a side");
     }
     SetPageSize(FitSide(width), FitSide(height));
-    _Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Vector, GetPictures(), width, height, 1.0);
-    _Canvas->MarkWholePage();
-    return &*_Canvas;
+    return BeginCanvas(width, height);
 }
 
 void ZAMPrintCairoPdfOutput::AddLink(const ZAMMathBox2D& area, std::string_view address) {
@@ -62,43 +60,17 @@ void ZAMPrintCairoPdfOutput::AddDestination(std::string_view name, const ZAMMath
     }
 }
 
-void ZAMPrintCairoPdfOutput::EndPage() {
-    cairo_t* context = _Canvas->GetContext();
-    WriteTags();
-    cairo_show_page(context);
-    Check(cairo_status(context));
-    _Canvas.reset();
-    GetPictures().EndPage();
-    Check(cairo_surface_status(_Surface.get()));
-}
-
-void ZAMPrintCairoPdfOutput::EndDocument() {
-    // Most of what can fail fails here, on the surface.
-    cairo_surface_finish(_Surface.get());
-    _Filter.Flush();
-    Check(cairo_surface_status(_Surface.get()));
-}
-
-cairo_status_t ZAMPrintCairoPdfOutput::WriteBytes(void* output, const unsigned char* bytes, unsigned int count) {
-    try {
-        auto& filter = static_cast<ZAMPrintCairoPdfOutput*>(output)->_Filter;
-        return filter.Write({reinterpret_cast<const char*>(bytes), count}) ? CAIRO_STATUS_SUCCESS
-                                                                           : CAIRO_STATUS_WRITE_ERROR;
-    } catch (...) {
-        return CAIRO_STATUS_NO_MEMORY;
-    }
-}
-
 /// A surface takes any size when it is made; when its size is changed, cairo 1.16 drops what lies beyond the last whole
 /// point. So only a page that differs from the one before changes it, and then has whole points.
 void ZAMPrintCairoPdfOutput::SetPageSize(double width, double height) {
-    if (_Surface == nullptr) {
-        _Surface.reset(cairo_pdf_surface_create_for_stream(WriteBytes, this, width, height));
+    if (GetSurface() == nullptr) {
+        SetSurface(cairo_pdf_surface_create_for_stream(WriteBytes, static_cast<ZAMPrintCairoVectorOutput*>(this), width,
+                                                       height));
         SetMetadata(_Metadata);
     } else if (width != _Width || height != _Height) {
-        cairo_pdf_surface_set_size(_Surface.get(), RoundUp(width), RoundUp(height));
+        cairo_pdf_surface_set_size(GetSurface(), RoundUp(width), RoundUp(height));
     }
-    Check(cairo_surface_status(_Surface.get()));
+    Check(cairo_surface_status(GetSurface()));
     _Width = width;
     _Height = height;
 }
@@ -106,7 +78,7 @@ void ZAMPrintCairoPdfOutput::SetPageSize(double width, double height) {
 void ZAMPrintCairoPdfOutput::SetMetadata(const ZAMPrintMetadata& metadata) {
     const auto set = [this](cairo_pdf_metadata_t key, const std::string& text) {
         if (!text.empty()) {
-            cairo_pdf_surface_set_metadata(_Surface.get(), key, text.c_str());
+            cairo_pdf_surface_set_metadata(GetSurface(), key, text.c_str());
         }
     };
     set(CAIRO_PDF_METADATA_TITLE, ZAMPrintCairoMetadata::KeepCharacters(metadata.title));
@@ -123,11 +95,11 @@ void ZAMPrintCairoPdfOutput::SetMetadata(const ZAMPrintMetadata& metadata) {
 
 /// After all marks, so that no clip touches the links; and because cairo forgets what it was told, tags included, when
 /// a mark covers the page, after which the end of a tag would be an error.
-void ZAMPrintCairoPdfOutput::WriteTags() {
+void ZAMPrintCairoPdfOutput::FinishPage() {
     if (_Tags.empty()) {
         return;
     }
-    cairo_t* context = _Canvas->GetContext();
+    cairo_t* context = GetContext();
     // Without a tag of the document's structure around them, links make cairo 1.16 refer to an object that it does not
     // write.
     cairo_tag_begin(context, "Document", nullptr);

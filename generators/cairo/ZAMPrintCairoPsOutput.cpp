@@ -30,7 +30,7 @@ double FitSide(double side) {
 } // namespace
 
 ZAMPrintCairoPsOutput::ZAMPrintCairoPsOutput(ZAMPrintCairoStream& stream, Kind kind)
-    : ZAMPrintCairoOutput(stream, true), _Kind(kind),
+    : ZAMPrintCairoVectorOutput(stream), _Kind(kind),
       _Filter(stream, kHeaderEnd, [this](std::string& header) { EditHeader(header); }) {}
 
 double ZAMPrintCairoPsOutput::GetLargestPageSide() const {
@@ -47,57 +47,29 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPsOutput::BeginPage(double width, double heigh
         throw ZAMPrintCairoFailure("a page of " + FormatLength(width) + " x " + FormatLength(height) +
                                    " points is too large: PostScript pages have 14,400 points a side at most");
     }
-    if (_Surface == nullptr) {
+    if (GetSurface() == nullptr) {
         MakeSurface(FitSide(width), FitSide(height));
     } else if (_Kind == Kind::Encapsulated) {
         return nullptr;
     } else {
-        cairo_ps_surface_set_size(_Surface.get(), FitSide(width), FitSide(height));
+        cairo_ps_surface_set_size(GetSurface(), FitSide(width), FitSide(height));
     }
-    Check(cairo_surface_status(_Surface.get()));
-    _Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Vector, GetPictures(), width, height, 1.0);
-    _Canvas->MarkWholePage();
-    return &*_Canvas;
-}
-
-void ZAMPrintCairoPsOutput::EndPage() {
-    if (_Canvas) {
-        cairo_t* context = _Canvas->GetContext();
-        cairo_show_page(context);
-        Check(cairo_status(context));
-        _Canvas.reset();
-        GetPictures().EndPage();
-        Check(cairo_surface_status(_Surface.get()));
-    }
-}
-
-void ZAMPrintCairoPsOutput::EndDocument() {
-    cairo_surface_finish(_Surface.get());
-    _Filter.Flush();
-    Check(cairo_surface_status(_Surface.get()));
-}
-
-cairo_status_t ZAMPrintCairoPsOutput::WriteBytes(void* output, const unsigned char* bytes, unsigned int count) {
-    try {
-        auto& filter = static_cast<ZAMPrintCairoPsOutput*>(output)->_Filter;
-        return filter.Write({reinterpret_cast<const char*>(bytes), count}) ? CAIRO_STATUS_SUCCESS
-                                                                           : CAIRO_STATUS_WRITE_ERROR;
-    } catch (...) {
-        return CAIRO_STATUS_NO_MEMORY;
-    }
+    Check(cairo_surface_status(GetSurface()));
+    return BeginCanvas(width, height);
 }
 
 void ZAMPrintCairoPsOutput::MakeSurface(double width, double height) {
-    _Surface.reset(cairo_ps_surface_create_for_stream(WriteBytes, this, width, height));
-    cairo_ps_surface_set_eps(_Surface.get(), _Kind == Kind::Encapsulated ? 1 : 0);
-    cairo_surface_set_fallback_resolution(_Surface.get(), kFallbackResolution, kFallbackResolution);
+    SetSurface(
+        cairo_ps_surface_create_for_stream(WriteBytes, static_cast<ZAMPrintCairoVectorOutput*>(this), width, height));
+    cairo_ps_surface_set_eps(GetSurface(), _Kind == Kind::Encapsulated ? 1 : 0);
+    cairo_surface_set_fallback_resolution(GetSurface(), kFallbackResolution, kFallbackResolution);
     WriteComment("%%Title: ", _Metadata.title);
     WriteComment("%%For: ", _Metadata.author);
 }
 
 void ZAMPrintCairoPsOutput::WriteComment(std::string_view key, std::string_view text) {
     if (!text.empty()) {
-        cairo_ps_surface_dsc_comment(_Surface.get(), std::string(key).append(ToComment(text)).c_str());
+        cairo_ps_surface_dsc_comment(GetSurface(), std::string(key).append(ToComment(text)).c_str());
     }
 }
 

@@ -28,7 +28,7 @@ std::string Escape(std::string_view text) {
 } // namespace
 
 ZAMPrintCairoSvgOutput::ZAMPrintCairoSvgOutput(ZAMPrintCairoStream& stream)
-    : ZAMPrintCairoOutput(stream, true),
+    : ZAMPrintCairoVectorOutput(stream),
       _Filter(stream, kHeaderEnd, [this](std::string& header) { AddTitles(header); }) {}
 
 double ZAMPrintCairoSvgOutput::GetLargestPageSide() const {
@@ -41,42 +41,17 @@ void ZAMPrintCairoSvgOutput::BeginDocument(const ZAMPrintParameters& parameters)
 
 ZAMPrintCairoCanvas* ZAMPrintCairoSvgOutput::BeginPage(double width, double height) {
     constexpr double kRounding = 1.0 + 1e-9;
-    if (_Surface != nullptr) {
+    if (GetSurface() != nullptr) {
         return nullptr;
     }
     if (std::max(width, height) > ZAMPrintCairoLimits::kLargestSvgSide * kRounding) {
         throw ZAMPrintCairoFailure("a drawing of " + FormatLength(width) + " x " + FormatLength(height) +
                                    " points is too large: its sides have 100,000 points at most");
     }
-    _Surface.reset(cairo_svg_surface_create_for_stream(WriteBytes, this, width, height));
-    Check(cairo_surface_status(_Surface.get()));
-    _Canvas.emplace(_Surface.get(), ZAMPrintCairoCanvas::Kind::Vector, GetPictures(), width, height, 1.0);
-    _Canvas->MarkWholePage();
-    return &*_Canvas;
-}
-
-void ZAMPrintCairoSvgOutput::EndPage() {
-    if (_Canvas) {
-        Check(cairo_status(_Canvas->GetContext()));
-        _Canvas.reset();
-        GetPictures().EndPage();
-    }
-}
-
-void ZAMPrintCairoSvgOutput::EndDocument() {
-    cairo_surface_finish(_Surface.get());
-    _Filter.Flush();
-    Check(cairo_surface_status(_Surface.get()));
-}
-
-cairo_status_t ZAMPrintCairoSvgOutput::WriteBytes(void* output, const unsigned char* bytes, unsigned int count) {
-    try {
-        auto& filter = static_cast<ZAMPrintCairoSvgOutput*>(output)->_Filter;
-        return filter.Write({reinterpret_cast<const char*>(bytes), count}) ? CAIRO_STATUS_SUCCESS
-                                                                           : CAIRO_STATUS_WRITE_ERROR;
-    } catch (...) {
-        return CAIRO_STATUS_NO_MEMORY;
-    }
+    SetSurface(
+        cairo_svg_surface_create_for_stream(WriteBytes, static_cast<ZAMPrintCairoVectorOutput*>(this), width, height));
+    Check(cairo_surface_status(GetSurface()));
+    return BeginCanvas(width, height);
 }
 
 /// Cairo has no words for them.
