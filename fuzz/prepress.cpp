@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The preparation of one document, then what the interpreter makes of it. Time and memory are what is watched: few bytes
-// must not become many elements.
+// The preparation of one document, then what the interpreter makes of it. Time and memory are what is watched: few
+// bytes must not become many elements.
 #include "framework/base/ZAMAllocationBudget.h"
 #include "framework/base/ZAMFileAccessPolicy.h"
 #include "framework/lightxml/ZAMLightXmlInputStreamBuffer.h"
