@@ -33,7 +33,8 @@ void Progress::Advance(const std::string& name) {
     ++_Done;
     if (_IsShown) {
         const std::size_t full = kWidth * _Done / _Count;
-        PrintStatus("[" + std::string(full, '#') + std::string(kWidth - full, ' ') + "] " + std::to_string(_Done) +
-                    "/" + std::to_string(_Count) + " " + name);
+        std::string bar(1, '[');
+        bar.append(full, '#').append(kWidth - full, ' ').append("] ").append(std::to_string(_Done));
+        PrintStatus(bar.append("/").append(std::to_string(_Count)).append(" ").append(name));
     }
 }
