@@ -27,20 +27,31 @@ function(zam_add_layer NAME)
     endif()
 endfunction()
 
-# zam_add_shared_library(<name> LAYERS <layer>... [LINKS <shared library>...])
-# lib<name>.so of the layers' objects. It takes the objects and not the static libraries, which would bring
-# the layers below along a second time.
+# Hides what a library or module does not mean to show.
+function(zam_limit_exports NAME)
+    target_link_options(${NAME} PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    set_property(TARGET ${NAME} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    set_property(GLOBAL APPEND PROPERTY ZAM_SHARED_LIBRARIES ${NAME})
+endfunction()
+
+# zam_add_shared_library(<name> LAYERS <layer>... [LINKS <shared library>...] HEADERS <header or folder>...)
+# lib<name>.so of the layers' objects, installed with the headers that a host may include. It takes the objects and not
+# the static libraries, which would bring the layers below along a second time.
 function(zam_add_shared_library NAME)
-    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "LAYERS;LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "LAYERS;LINKS;HEADERS")
     add_library(${NAME} SHARED)
+    add_library(ZAMPrint::${NAME} ALIAS ${NAME})
     foreach(layer IN LISTS ARG_LAYERS)
         target_sources(${NAME} PRIVATE $<TARGET_OBJECTS:zam_${layer}>)
         target_link_libraries(${NAME} PRIVATE $<TARGET_PROPERTY:zam_${layer},ZAM_PRIVATE_LINKS>)
     endforeach()
     target_link_libraries(${NAME} PUBLIC ${ARG_LINKS} PRIVATE zam_flags)
-    target_include_directories(${NAME} INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
     target_compile_features(${NAME} INTERFACE cxx_std_20)
-    set_target_properties(${NAME} PROPERTIES LINKER_LANGUAGE CXX VERSION ${PROJECT_VERSION} SOVERSION 0)
+    set_target_properties(${NAME} PROPERTIES LINKER_LANGUAGE CXX VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+    zam_limit_exports(${NAME})
+    zam_set_public_headers(${NAME} ${ARG_HEADERS})
+    zam_install_library(${NAME} LINKS ${ARG_LINKS})
     # Clang keeps the sanitizers' own symbols in the program, so there a sanitized library cannot be complete.
     if(NOT (ZAM_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL Clang))
         target_link_options(${NAME} PRIVATE -Wl,--no-undefined)
@@ -56,6 +67,8 @@ function(zam_add_module NAME)
     add_library(${NAME} MODULE ${sources})
     target_link_libraries(${NAME} PRIVATE zam_flags ${ARG_LINKS})
     add_dependencies(zam_${ARG_OPENED_BY} ${NAME})
+    zam_limit_exports(${NAME})
+    zam_install_module(${NAME})
 endfunction()
 
 # zam_add_program(<name> FOLDER <folder> LINKS <shared library>...)
@@ -98,6 +111,22 @@ function(zam_add_readme_program)
     file(CONFIGURE OUTPUT ${program} CONTENT "${CMAKE_MATCH_1}" @ONLY)
     add_executable(readme ${program})
     target_link_libraries(readme PRIVATE zam_flags ZAMPrtInterpreterSVG ZAMPrintPrepress ZAMPrintCairo)
+endfunction()
+
+# zam_add_install_tests()
+# Tests of what is installed and of what the libraries show; comes after all libraries. Nobody links sanitized libraries
+# but our own tests, so there are none of those.
+function(zam_add_install_tests)
+    if(ZAM_SANITIZE)
+        return()
+    endif()
+    set(folder ${PROJECT_SOURCE_DIR}/tests/install)
+    get_property(libraries GLOBAL PROPERTY ZAM_SHARED_LIBRARIES)
+    list(TRANSFORM libraries REPLACE "(.+)" "$<TARGET_FILE:\\1>")
+    add_test(NAME exports COMMAND ${folder}/exports.bash ${libraries})
+    add_test(NAME install
+        COMMAND ${folder}/install.bash ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})
+    set_tests_properties(exports install PROPERTIES TIMEOUT 300)
 endfunction()
 
 # zam_add_fuzzer(<name> LINKS <library>...)

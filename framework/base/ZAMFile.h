@@ -8,10 +8,11 @@
 #include <string_view>
 #include <vector>
 
-// Files as documents may name them. Only regular files are there, after links are followed, and of those only the ones
-// that the thread's ZAMFileAccessPolicy allows: a folder, device, pipe or socket is not there and is never opened. A
-// text that cannot be a path costs no copy and no system call. These functions give 0, or -1 with the results
-// untouched.
+/// @file
+/// Files as documents may name them. Only regular files are there, after links are followed, and of those only the ones
+/// that the thread's ZAMFileAccessPolicy allows: a folder, device, pipe or socket is not there and is never opened. A
+/// text that cannot be a path costs no copy and no system call. These functions give 0, or -1 with the results
+/// untouched.
 
 struct ZAMFileInformation {
     std::uint64_t size;            ///< bytes

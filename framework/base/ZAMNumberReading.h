@@ -5,6 +5,7 @@
 
 #include <string_view>
 
+/// @file
 /// Readers of the number at the start of a text. They accept exactly what the standard formatted scan accepts in the
 /// "C" locale, whatever the process locale is: leading white space, a sign, then the longest prefix that the scan
 /// takes; what follows is ignored. Each returns 1 when a number was stored, 0 when the text starts with none, -1 when

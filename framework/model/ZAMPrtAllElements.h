@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Every element class of the model, for those who walk whole models.
+/// @file
+/// Every element class of the model, for those who walk whole models.
+
 #include "framework/model/ZAMPrtBitmapImageElt.h"
 #include "framework/model/ZAMPrtCircleElt.h"
 #include "framework/model/ZAMPrtClosedFigureElt.h"

@@ -15,9 +15,9 @@ constexpr ZAMMetaObject ZAMPrtMetaObjectOf(std::string_view name, const ZAMMetaO
     return {name, 1, base, "ZAMnull", "PrtKernel", size};
 }
 
-/// Gives the element class `Self` what every element class has. `Self` derives from ZAMPrtEltOf<Self, Base>, where Base
-/// is an element class or one of the attribute carriers, and declares its name (`kClassName`) and its members, nothing
-/// else.
+/// Gives the element class `Self` what every element class has. `Self` derives from `ZAMPrtEltOf<Self, Base>`, where
+/// Base is an element class or one of the attribute carriers, and declares its name (`kClassName`) and its members,
+/// nothing else.
 template <class Self, class Base> class ZAM_EXPORT ZAMPrtEltOf : public Base {
 public:
     static constexpr std::string_view ClassName() { return Self::kClassName; }

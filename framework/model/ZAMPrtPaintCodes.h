@@ -3,8 +3,9 @@
 
 #include <cstdint>
 
-// The codes of the attribute objects. Every type takes any value of its range: what stands in no list draws as the
-// default.
+/// @file
+/// The codes of the attribute objects. Every type takes any value of its range: what stands in no list draws as the
+/// default.
 
 /// Which parts of an element are drawn. A bit each for the outline and the interior but for the last, the state that an
 /// explicit stroke or fill leaves behind.

@@ -6,9 +6,11 @@
 
 #include <span>
 
-// The readers of pictures in memory. Each gives null for what is not its format, is damaged or cut short, has more than
-// ZAMPixelImage::kMostPixels or more than the thread's ZAMAllocationBudget has left, and when memory is out. Bytes
-// behind the end of the picture do not matter. No exception leaves them, and nothing is loaded for other formats.
+/// @file
+/// The readers of pictures in memory. Each gives null for what is not its format, is damaged or cut short, has more
+/// than ZAMPixelImage::kMostPixels or more than the thread's ZAMAllocationBudget has left, and when memory is out.
+/// Bytes behind the end of the picture do not matter. No exception leaves them, and nothing is loaded for other
+/// formats.
 
 /// PNG (ISO 15948), every colour type and depth; 16 bits are brought to 8, and colours are taken as sRGB.
 ZAM_EXPORT ZAMRef<ZAMPixelImage> ReadMemoryPNGPixelImage(std::span<const unsigned char> data, ZAMReadOnlyState state);
