@@ -62,12 +62,21 @@ std::string Cleaned(std::string_view piece) {
 
 } // namespace
 
+std::string ZAMPrintSVGFontFinder::TakeFamily(std::string_view& families) {
+    const std::size_t length = std::min(families.find(','), families.size());
+    const std::string_view family = families.substr(0, length);
+    families.remove_prefix(std::min(length + 1, families.size()));
+    return Cleaned(family);
+}
+
+bool ZAMPrintSVGFontFinder::IsGeneric(std::string_view family) {
+    return ZAMPrintSVGFindKeyword(kGenericFamilies, family) != nullptr;
+}
+
 ZAMFont* ZAMPrintSVGFontFinder::FindInList(std::string_view families) {
     ZAMFont* font = nullptr;
     while (font == nullptr && !families.empty()) {
-        const std::size_t length = std::min(families.find(','), families.size());
-        const std::string family = Cleaned(families.substr(0, length));
-        families.remove_prefix(std::min(length + 1, families.size()));
+        const std::string family = TakeFamily(families);
         if (!family.empty()) {
             font = Find(family);
         }

@@ -15,6 +15,11 @@ public:
     /// The first family of a list (SVG 1.1, 10.10) for which there is a font, or null.
     ZAMFont* FindInList(std::string_view families);
 
+    /// Eats the first family of a list and gives its name without quotes and the blanks around it.
+    static std::string TakeFamily(std::string_view& families);
+    /// Whether the family is a kind of font, which stands for some font in any case where there are fonts at all.
+    static bool IsGeneric(std::string_view family);
+
 private:
     ZAMFont* Find(std::string_view family);
     void ListInstalled();

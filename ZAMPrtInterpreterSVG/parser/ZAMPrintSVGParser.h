@@ -14,8 +14,10 @@
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGPictures.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 /// Walks one root `svg` element and fills a print model with what it finds. A parser serves for one root.
 ///
@@ -35,6 +37,22 @@ public:
     /// The document's root: adds an image element to the model. -1 when the model is null or memory is out, else what
     /// the last child gave.
     int ParseSVGElement(const ZAMLightXmlElementItf& element, ZAMPrtModel* model);
+
+    // What the parser knows, told from the tables that it works by.
+
+    /// Whether elements of that name, letter case aside, are read anywhere.
+    [[nodiscard]] static bool IsElement(std::string_view name);
+    [[nodiscard]] static std::vector<std::string_view> GetElementNames();
+    /// A presentation property and the forms in which it is heard.
+    struct Property {
+        std::string_view name;
+        bool asAttribute;
+        bool inStyle;
+    };
+    /// By name, letter case aside, as in style; an attribute has the name exactly. Nothing for a name that is not
+    /// known.
+    [[nodiscard]] static std::optional<Property> FindProperty(std::string_view name);
+    [[nodiscard]] static std::vector<Property> GetProperties();
 
     /// Turn the document's downward y axis into the model's upward one.
     bool _FlipY = true;
@@ -76,7 +94,16 @@ private:
         int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf& element, ZAMPrtGraphicPrimitiveElt* parent,
                                         int& definitions);
     };
-    int ParseChildAs(std::span<const ElementRow> rows, const ZAMLightXmlElementItf& element, std::string_view name,
+    using ElementRows = std::span<const ElementRow>;
+    using P = ZAMPrintSVGParser; // as the tables call it
+    static const ElementRow kDescriptionRows[2];
+    static const ElementRow kGraphicPrimitiveRows[9];
+    static const ElementRow kStructureRows[5];
+    static const ElementRow kMarkerRows[1];
+    static const ElementRow kHyperlinkRows[1];
+    static const ElementRow kPatternRows[1];
+    template <class Visit> static void VisitElementRows(Visit visit);
+    int ParseChildAs(ElementRows rows, const ZAMLightXmlElementItf& element, std::string_view name,
                      ZAMPrtGraphicPrimitiveElt* parent, int& definitions);
     // The ways in which handlers are called from a row.
     template <int (ZAMPrintSVGParser::*parse)(const ZAMLightXmlElementItf&, ZAMPrtGraphicPrimitiveElt*)>

@@ -84,6 +84,23 @@ const ZAMPrintSVGParser::PropertyRow ZAMPrintSVGParser::kProperties[] = {
     {"marker-end", ReadingOperation::Marker, &ZAMPrintSVGParser::ReadMarkerEnd, nullptr},
 };
 
+std::vector<ZAMPrintSVGParser::Property> ZAMPrintSVGParser::GetProperties() {
+    std::vector<Property> properties;
+    for (const PropertyRow& row : kProperties) {
+        properties.push_back({row.name.GetText(), row.asAttribute != nullptr, row.inStyle != nullptr});
+    }
+    return properties;
+}
+
+std::optional<ZAMPrintSVGParser::Property> ZAMPrintSVGParser::FindProperty(std::string_view name) {
+    for (const PropertyRow& row : kProperties) {
+        if (ZAMTextMatches(row.name.GetText(), name)) {
+            return Property{row.name.GetText(), row.asAttribute != nullptr, row.inStyle != nullptr};
+        }
+    }
+    return std::nullopt;
+}
+
 void ZAMPrintSVGParser::ParsePresentationAttrib(const ZAMLightXmlElementItf& element,
                                                 ZAMPrtGraphicPrimitiveElt* /*primitive*/) {
     ParseOpacityAttrib(element);

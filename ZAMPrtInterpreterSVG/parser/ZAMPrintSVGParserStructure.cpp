@@ -4,6 +4,8 @@
 #include "framework/model/ZAMPrtTypeList.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGParser.h"
 
+#include <algorithm>
+
 namespace {
 
 // The classes that take children, in the order in which their names are tried.
@@ -52,8 +54,60 @@ int ZAMPrintSVGParser::ParseDefinition(const ZAMLightXmlElementItf& element, ZAM
     return (this->*parse)(element, definitions);
 }
 
-int ZAMPrintSVGParser::ParseChildAs(std::span<const ElementRow> rows, const ZAMLightXmlElementItf& element,
-                                    std::string_view name, ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
+// In the order in which the names are tried.
+const ZAMPrintSVGParser::ElementRow ZAMPrintSVGParser::kDescriptionRows[] = {
+    {"desc", &P::ParseOnto<&P::ParseDescElement>},
+    {"title", &P::ParseOnto<&P::ParseTitleElement>},
+};
+const ZAMPrintSVGParser::ElementRow ZAMPrintSVGParser::kGraphicPrimitiveRows[] = {
+    {"path", &P::ParseNew<ZAMPrtGroupElt, &P::ParsePathElement>},
+    {"text", &P::ParseNew<ZAMPrtTextElt, &P::ParseTextElement>},
+    {"rect", &P::ParseNew<ZAMPrtRectangleElt, &P::ParseRectElement>},
+    {"circle", &P::ParseNew<ZAMPrtCircleElt, &P::ParseCircleElement>},
+    {"ellipse", &P::ParseNew<ZAMPrtEllipseElt, &P::ParseEllipseElement>},
+    {"line", &P::ParseNewIn<ZAMPrtLineElt, &P::ParseLineElement>},
+    {"polyline", &P::ParseNewIn<ZAMPrtPolylineElt, &P::ParsePolylineElement>},
+    {"polygon", &P::ParseNewIn<ZAMPrtPolygonElt, &P::ParsePolygonElement>},
+    {"image", &P::ParseNew<ZAMPrtBitmapImageElt, &P::ParseBitmapImageElement>},
+};
+const ZAMPrintSVGParser::ElementRow ZAMPrintSVGParser::kStructureRows[] = {
+    {"g", &P::ParseNew<ZAMPrtGroupElt, &P::ParseGroupElement>}, {"defs", &P::ParseDefinition<&P::ParseDefsElement>},
+    {"use", &P::ParseNew<ZAMPrtGroupElt, &P::ParseUseElement>}, {"symbol", &P::ParseDefinition<&P::ParseSymbolElement>},
+    {"svg", &P::ParseNew<ZAMPrtGroupElt, &P::ParseSVGElement>},
+};
+const ZAMPrintSVGParser::ElementRow ZAMPrintSVGParser::kMarkerRows[] = {
+    {"marker", &P::ParseDefinition<&P::ParseMarkerElement>},
+};
+const ZAMPrintSVGParser::ElementRow ZAMPrintSVGParser::kHyperlinkRows[] = {
+    {"a", &P::ParseNew<ZAMPrtGroupElt, &P::ParseLinkElement>},
+};
+const ZAMPrintSVGParser::ElementRow ZAMPrintSVGParser::kPatternRows[] = {
+    {"pattern", &P::ParseDefinition<&P::ParsePatternElement>},
+};
+
+// Calls `visit` with each row of each table.
+template <class Visit> void ZAMPrintSVGParser::VisitElementRows(Visit visit) {
+    for (const ElementRows rows :
+         {ElementRows(kDescriptionRows), ElementRows(kGraphicPrimitiveRows), ElementRows(kStructureRows),
+          ElementRows(kMarkerRows), ElementRows(kHyperlinkRows), ElementRows(kPatternRows)}) {
+        std::ranges::for_each(rows, visit);
+    }
+}
+
+bool ZAMPrintSVGParser::IsElement(std::string_view name) {
+    bool isFound = false;
+    VisitElementRows([&](const ElementRow& row) { isFound = isFound || ZAMTextMatches(row.name, name); });
+    return isFound;
+}
+
+std::vector<std::string_view> ZAMPrintSVGParser::GetElementNames() {
+    std::vector<std::string_view> names;
+    VisitElementRows([&](const ElementRow& row) { names.push_back(row.name); });
+    return names;
+}
+
+int ZAMPrintSVGParser::ParseChildAs(ElementRows rows, const ZAMLightXmlElementItf& element, std::string_view name,
+                                    ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
     if (parent == nullptr) {
         return -1;
     }
@@ -67,70 +121,33 @@ int ZAMPrintSVGParser::ParseChildAs(std::span<const ElementRow> rows, const ZAML
 
 int ZAMPrintSVGParser::ParseChildEltAsDescriptionElement(const ZAMLightXmlElementItf& element, std::string_view name,
                                                          ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
-    using P = ZAMPrintSVGParser;
-    static constexpr ElementRow kRows[] = {
-        {"desc", &P::ParseOnto<&P::ParseDescElement>},
-        {"title", &P::ParseOnto<&P::ParseTitleElement>},
-    };
-    return ParseChildAs(kRows, element, name, parent, definitions);
+    return ParseChildAs(kDescriptionRows, element, name, parent, definitions);
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsGraphicPrimitiveElement(const ZAMLightXmlElementItf& element,
                                                               std::string_view name, ZAMPrtGraphicPrimitiveElt* parent,
                                                               int& definitions) {
-    using P = ZAMPrintSVGParser;
-    static constexpr ElementRow kRows[] = {
-        {"path", &P::ParseNew<ZAMPrtGroupElt, &P::ParsePathElement>},
-        {"text", &P::ParseNew<ZAMPrtTextElt, &P::ParseTextElement>},
-        {"rect", &P::ParseNew<ZAMPrtRectangleElt, &P::ParseRectElement>},
-        {"circle", &P::ParseNew<ZAMPrtCircleElt, &P::ParseCircleElement>},
-        {"ellipse", &P::ParseNew<ZAMPrtEllipseElt, &P::ParseEllipseElement>},
-        {"line", &P::ParseNewIn<ZAMPrtLineElt, &P::ParseLineElement>},
-        {"polyline", &P::ParseNewIn<ZAMPrtPolylineElt, &P::ParsePolylineElement>},
-        {"polygon", &P::ParseNewIn<ZAMPrtPolygonElt, &P::ParsePolygonElement>},
-        {"image", &P::ParseNew<ZAMPrtBitmapImageElt, &P::ParseBitmapImageElement>},
-    };
-    return ParseChildAs(kRows, element, name, parent, definitions);
+    return ParseChildAs(kGraphicPrimitiveRows, element, name, parent, definitions);
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsStructureElement(const ZAMLightXmlElementItf& element, std::string_view name,
                                                        ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
-    using P = ZAMPrintSVGParser;
-    static constexpr ElementRow kRows[] = {
-        {"g", &P::ParseNew<ZAMPrtGroupElt, &P::ParseGroupElement>},
-        {"defs", &P::ParseDefinition<&P::ParseDefsElement>},
-        {"use", &P::ParseNew<ZAMPrtGroupElt, &P::ParseUseElement>},
-        {"symbol", &P::ParseDefinition<&P::ParseSymbolElement>},
-        {"svg", &P::ParseNew<ZAMPrtGroupElt, &P::ParseSVGElement>},
-    };
-    return ParseChildAs(kRows, element, name, parent, definitions);
+    return ParseChildAs(kStructureRows, element, name, parent, definitions);
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsMarkerElement(const ZAMLightXmlElementItf& element, std::string_view name,
                                                     ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
-    using P = ZAMPrintSVGParser;
-    static constexpr ElementRow kRows[] = {
-        {"marker", &P::ParseDefinition<&P::ParseMarkerElement>},
-    };
-    return ParseChildAs(kRows, element, name, parent, definitions);
+    return ParseChildAs(kMarkerRows, element, name, parent, definitions);
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsHyperlinkElement(const ZAMLightXmlElementItf& element, std::string_view name,
                                                        ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
-    using P = ZAMPrintSVGParser;
-    static constexpr ElementRow kRows[] = {
-        {"a", &P::ParseNew<ZAMPrtGroupElt, &P::ParseLinkElement>},
-    };
-    return ParseChildAs(kRows, element, name, parent, definitions);
+    return ParseChildAs(kHyperlinkRows, element, name, parent, definitions);
 }
 
 int ZAMPrintSVGParser::ParseChildEltAsPatternElement(const ZAMLightXmlElementItf& element, std::string_view name,
                                                      ZAMPrtGraphicPrimitiveElt* parent, int& definitions) {
-    using P = ZAMPrintSVGParser;
-    static constexpr ElementRow kRows[] = {
-        {"pattern", &P::ParseDefinition<&P::ParsePatternElement>},
-    };
-    return ParseChildAs(kRows, element, name, parent, definitions);
+    return ParseChildAs(kPatternRows, element, name, parent, definitions);
 }
 
 // The operations that containers offer their children to, in order: images, groups, links, symbols take all, defs no

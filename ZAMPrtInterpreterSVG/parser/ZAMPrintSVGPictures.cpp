@@ -71,6 +71,11 @@ ZAMRef<ZAMPixelImage> ZAMPrintSVGPictures::Find(std::string_view reference) {
     return _Known.emplace(reference, Load(reference)).first->second;
 }
 
+bool ZAMPrintSVGPictures::IsKnownData(std::string_view reference) {
+    return std::ranges::any_of(kDataFormats,
+                               [&](const DataFormat& format) { return reference.starts_with(format.prefix); });
+}
+
 // A file of that name, then one in the document's folder, then data.
 ZAMRef<ZAMPixelImage> ZAMPrintSVGPictures::Load(std::string_view reference) const {
     if (IsReadableFile(reference)) {

@@ -18,6 +18,9 @@ public:
     /// Null when there is no such picture, or none that can be read. The text must outlive this object.
     [[nodiscard]] ZAMRef<ZAMPixelImage> Find(std::string_view reference);
 
+    /// Whether the reference names the format of its data in a way that is read.
+    [[nodiscard]] static bool IsKnownData(std::string_view reference);
+
 private:
     [[nodiscard]] ZAMRef<ZAMPixelImage> Load(std::string_view reference) const;
 

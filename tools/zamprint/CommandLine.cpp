@@ -73,8 +73,13 @@ void CommandLine::Check() const {
         {_Options.paper && hasSides, "--page-size and --width or --height both say how large the page is"},
         {_Options.isLandscape && !_Options.paper, "--landscape turns paper; name one with --page-size"},
         {!isTogether && _Options.output != kStandardStream, "--output and --output-dir both say where to write"},
-        {isTogether && _Options.inputs.size() > 1 && !HasPages(_Options.GetFormat()),
+        {!_Options.isChecked && isTogether && _Options.inputs.size() > 1 && !HasPages(_Options.GetFormat()),
          "several inputs become pages, which only pdf and ps have; give each an output of its own with --output-dir"},
+        {_Options.isChecked && (!isTogether || _Options.output != kStandardStream),
+         "--check writes to standard output only"},
+        {_Options.isChecked && _Options.format && _Options.format != OutputFormat::Json,
+         "--check reports as text, or with -f json"},
+        {_Options.isStrict && !_Options.isChecked, "--strict goes with --check"},
         {std::ranges::count(_Options.inputs, kStandardStream) > 1, "standard input can be read only once"},
     };
     for (const Rule& rule : rules) {

@@ -39,8 +39,8 @@ std::string CollapseWhiteSpace(const std::string& text) {
 
 } // namespace
 
-Document::Document(const std::string& file, bool isPrepared) : _Name(GetInputName(file)), _Path(PathOf(file)) {
-    Parse(ReadInputFile(file));
+Document::Document(const std::string& file, bool isPrepared)
+    : _Name(GetInputName(file)), _Path(PathOf(file)), _Root(Read(file)) {
     if (isPrepared) {
         TileRenderer renderer(_Path);
         _Root = ZAMPrepress::Prepare(_Root, &renderer, _Path);
@@ -59,15 +59,18 @@ std::string Document::PathOf(const std::string& file) {
     return file == kStandardStream ? std::string() : file;
 }
 
-void Document::Parse(const std::string& content) {
+ZAMLightXmlElement Document::Read(const std::string& file) {
+    const std::string content = ReadInputFile(file);
     const ZAMLightXmlInputStreamBuffer stream(reinterpret_cast<const unsigned char*>(content.data()),
                                               static_cast<int>(content.size()));
+    ZAMLightXmlElement root;
     ZAMLightXmlParser parser;
-    if (parser.Parse(stream, _Root) != 1) {
+    if (parser.Parse(stream, root) != 1) {
         const ZAMLightXmlError& error = parser.GetError();
-        throw Failure(ExitStatus::Failed, _Name + ":" + std::to_string(error.line) + ":" +
+        throw Failure(ExitStatus::Failed, GetInputName(file) + ":" + std::to_string(error.line) + ":" +
                                               std::to_string(error.column) + ": " + error.reason);
     }
+    return root;
 }
 
 std::string Document::GetTextOf(std::string_view name) const {

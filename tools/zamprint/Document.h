@@ -12,6 +12,8 @@ public:
     /// Reads and parses a file, or standard input for "-". Throws a Failure when it cannot be read, is no well-formed
     /// XML, or holds no drawing. A prepared document says the same in words that the interpreter draws rightly.
     Document(const std::string& file, bool isPrepared);
+    /// Only reads and parses, whatever the document holds. Throws a Failure when that cannot be done.
+    static ZAMLightXmlElement Read(const std::string& file);
 
     /// Where the relative references of a document in that file start from; empty for standard input.
     [[nodiscard]] static std::string PathOf(const std::string& file);
@@ -29,7 +31,6 @@ public:
 
 private:
     [[nodiscard]] std::string GetTextOf(std::string_view name) const;
-    void Parse(const std::string& content);
 
     std::string _Name;
     std::string _Path;

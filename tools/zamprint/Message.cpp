@@ -12,14 +12,14 @@ constexpr const char* kClearLine = "\r\033[K";
 
 bool hasStatusLine = false;
 
+} // namespace
+
 std::string WithoutControls(std::string_view text) {
     std::string line(text);
     std::replace_if(
         line.begin(), line.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; }, '?');
     return line;
 }
-
-} // namespace
 
 void PrintMessage(std::string_view text) {
     const std::string line =

@@ -36,6 +36,17 @@ template <class Number> std::string ReadNumber(std::string_view text, const Rang
     return {};
 }
 
+// Letter case aside.
+template <class Value, std::size_t kCount>
+std::optional<Value> FindChoice(const std::pair<std::string_view, Value> (&choices)[kCount], std::string_view text) {
+    for (const auto& [name, value] : choices) {
+        if (ZAMTextMatches(name, text)) {
+            return value;
+        }
+    }
+    return std::nullopt;
+}
+
 std::string ReadFileName(std::string_view text, Options& options) {
     options.output = text;
     return text.empty() ? "the name is empty" : "";
@@ -67,25 +78,16 @@ std::string ReadMargin(std::string_view text, Options& options) {
 std::string ReadFit(std::string_view text, Options& options) {
     constexpr std::pair<std::string_view, ZAMPrintFit> kFits[] = {
         {"none", ZAMPrintFit::None}, {"shrink", ZAMPrintFit::Shrink}, {"page", ZAMPrintFit::Page}};
-    for (const auto& [name, fit] : kFits) {
-        if (ZAMTextMatches(name, text)) {
-            options.fit = fit;
-            return {};
-        }
-    }
-    return "must be none, shrink or page";
+    options.fit = FindChoice(kFits, text);
+    return options.fit ? "" : "must be none, shrink or page";
 }
 
 std::string ReadProgress(std::string_view text, Options& options) {
     constexpr std::pair<std::string_view, ProgressMode> kModes[] = {
         {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
-    for (const auto& [name, mode] : kModes) {
-        if (ZAMTextMatches(name, text)) {
-            options.progress = mode;
-            return {};
-        }
-    }
-    return "must be auto, always or never";
+    const auto mode = FindChoice(kModes, text);
+    options.progress = mode.value_or(options.progress);
+    return mode ? "" : "must be auto, always or never";
 }
 
 std::string ReadJobs(std::string_view text, Options& options) {
@@ -157,6 +159,18 @@ constexpr OptionRow kOptions[] = {
     {"-u,--unlimited", nullptr, "Let a document reuse as many elements as it likes",
      [](std::string_view /*text*/, Options& options) {
          options.mostElements = std::numeric_limits<std::size_t>::max() / 2;
+         return std::string();
+     }},
+    {"--check", nullptr,
+     "Print nothing: say on standard output what of the documents will not come out as it is drawn; with -f json for "
+     "programs",
+     [](std::string_view /*text*/, Options& options) {
+         options.isChecked = true;
+         return std::string();
+     }},
+    {"--strict", nullptr, "With --check: exit status 1 when there is anything to say",
+     [](std::string_view /*text*/, Options& options) {
+         options.isStrict = true;
          return std::string();
      }},
     {"--title", "T", "The title that the output bears; without it, that of the document",

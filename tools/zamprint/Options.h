@@ -37,11 +37,13 @@ struct Options {
     std::optional<ZAMPrintColour> background;
     AllowedFiles allowedFiles = AllowedFiles::Document;
     std::size_t mostElements = ZAMAllocationBudget::kElements; ///< that are reused, besides 10 for each that is read
-    bool isPrepared = true; ///< documents are rewritten before they are interpreted
+    bool isPrepared = true;                                    ///< documents are rewritten before they are interpreted
     std::optional<std::string> title;                          ///< else the document's
     std::string author;
     std::size_t jobs = 0; ///< documents at once; 0 for as many as there are processors
     ProgressMode progress = ProgressMode::Auto;
+    bool isChecked = false; ///< documents are not printed: a report says what would not come out as it is drawn
+    bool isStrict = false;  ///< a report with anything in it is a failure
     std::optional<std::string> information; ///< a text that is asked for instead of a print
     bool isQuiet = false;                   ///< no messages but errors, and no progress
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tools/zamprint/Check.h"
 #include "tools/zamprint/CommandLine.h"
 #include "tools/zamprint/Failure.h"
 #include "tools/zamprint/Message.h"
@@ -30,6 +31,11 @@ ExitStatus Run(int argc, const char* const* argv) {
         output.GetStream() << *information;
         output.Commit();
         return ExitStatus::Printed;
+    }
+    if (commandLine.GetOptions().isChecked) {
+        const CheckResult result = Check(commandLine.GetOptions());
+        const bool isGood = result.areAllRead && !(result.hasFindings && commandLine.GetOptions().isStrict);
+        return isGood ? ExitStatus::Printed : ExitStatus::Failed;
     }
     return Print(commandLine.GetOptions()) ? ExitStatus::Printed : ExitStatus::Failed;
 }
