@@ -45,8 +45,8 @@ TEST_F(PaperTest, HoldsTheDrawingWhereItIsWanted) {
         unsigned width = 0;
         unsigned height = 0;
         for (unsigned i = 0; i < 180; ++i) {
-            width += picture.At(i, 90) == "ff0000ff" ? 1 : 0;
-            height += picture.At(90, i) == "ff0000ff" ? 1 : 0;
+            width += picture.At(i, 90) == "ff0000ff" ? 1U : 0U;
+            height += picture.At(90, i) == "ff0000ff" ? 1U : 0U;
         }
         EXPECT_NEAR(width, row.width, 2) << testing::PrintToString(row.options);
         EXPECT_NEAR(height, row.height, 2) << testing::PrintToString(row.options);
