@@ -110,7 +110,8 @@ std::string WriteZsh() {
                                             : ":value:(" + Join(option.values, " ") + ")";
         }
         for (const std::string& name : option.names) {
-            script += "    " + Quote(name + "[" + help + "]" + value) + " \\\n";
+            script.append("    ").append(Quote(std::string(name).append("[").append(help).append("]").append(value)));
+            script.append(" \\\n");
         }
     }
     return script + "    '*:drawing:_files -g \"*.(#i)svg(z|)\"'\n";

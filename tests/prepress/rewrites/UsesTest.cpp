@@ -57,7 +57,7 @@ TEST(PrepressUses, CopiesOfCopiesEndWhereDocumentsDo) {
     for (int i = 1; i < 200; ++i) {
         std::string nested = "<use xlink:href='#n" + std::to_string(i - 1) + "'/>";
         for (int depth = 0; depth < 20; ++depth) {
-            nested = "<g>" + nested + "</g>";
+            nested.insert(0, "<g>").append("</g>");
         }
         document += "<g id='n" + std::to_string(i) + "'>" + nested + "</g>";
     }
