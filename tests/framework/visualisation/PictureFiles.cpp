@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <iomanip>
+#include <sstream>
 
 namespace {
 
@@ -277,4 +280,21 @@ FileBytes BmpFile::Make() const {
     Append(file, between);
     Append(file, data);
     return file;
+}
+
+std::string TextOf(const ZAMRef<ZAMPixelImage>& image) {
+    std::ostringstream text;
+    text << std::hex << std::setfill('0');
+    for (std::size_t i = 0; image && i < image->GetPixels().size(); ++i) {
+        text << (i == 0                                                 ? ""
+                 : i % static_cast<std::size_t>(image->GetWidth()) == 0 ? " "
+                                                                        : ",")
+             << std::setw(8) << image->GetPixels()[i];
+    }
+    return image ? text.str() : "null";
+}
+
+std::uint32_t PixelOf(double red, double green, double blue, double alpha) {
+    const auto part = [&](double value) { return static_cast<std::uint32_t>(std::lround(value * alpha / 255.0)); };
+    return static_cast<std::uint32_t>(std::lround(alpha)) << 24U | part(red) << 16U | part(green) << 8U | part(blue);
 }

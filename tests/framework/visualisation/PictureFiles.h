@@ -2,6 +2,8 @@
 // Picture files made by hand, byte by byte, so that no library that reads them has a part in what they hold.
 #pragma once
 
+#include "framework/visualisation/ZAMPixelImage.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -58,3 +60,8 @@ struct BmpFile {
 
     [[nodiscard]] FileBytes Make() const;
 };
+
+/// The rows of pixels separated by blanks, "null" when there is no picture.
+std::string TextOf(const ZAMRef<ZAMPixelImage>& image);
+/// The pixel of a colour from 0 to 255, as pictures hold it: multiplied by its alpha.
+std::uint32_t PixelOf(double red, double green, double blue, double alpha);

@@ -12,7 +12,6 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iomanip>
 #include <random>
 #include <sstream>
 #include <sys/stat.h>
@@ -32,24 +31,6 @@ ZAMRef<ZAMPixelImage> Read(const FileBytes& file) {
         }
     }
     return {};
-}
-
-// The rows separated by blanks, "null" when there is no picture.
-std::string TextOf(const ZAMRef<ZAMPixelImage>& image) {
-    std::ostringstream text;
-    text << std::hex << std::setfill('0');
-    for (std::size_t i = 0; image && i < image->GetPixels().size(); ++i) {
-        text << (i == 0                                                 ? ""
-                 : i % static_cast<std::size_t>(image->GetWidth()) == 0 ? " "
-                                                                        : ",")
-             << std::setw(8) << image->GetPixels()[i];
-    }
-    return image ? text.str() : "null";
-}
-
-std::uint32_t PixelOf(double red, double green, double blue, double alpha) {
-    const auto part = [&](double value) { return static_cast<std::uint32_t>(std::lround(value * alpha / 255.0)); };
-    return static_cast<std::uint32_t>(std::lround(alpha)) << 24U | part(red) << 16U | part(green) << 8U | part(blue);
 }
 
 bool IsNear(std::uint32_t left, std::uint32_t right, int tolerance) {
@@ -93,84 +74,6 @@ std::vector<FileBytes> AllKinds() {
             fields.Make()};
 }
 
-struct PngRow {
-    std::uint32_t colourType;
-    std::uint32_t depth;
-    bool hasTransparency;
-};
-
-std::uint32_t SampleOf(std::uint32_t x, std::uint32_t y, std::uint32_t channel, std::uint32_t depth) {
-    return (x * 7919 + y * 104729 + channel * 31337 + x * y * 4099) >> 3U & ((1U << depth) - 1U);
-}
-
-// Two bytes for each channel of the first pixel, or the alpha of the first two colours.
-FileBytes TransparencyOf(const PngRow& row) {
-    if (row.colourType == 3) {
-        return {0, 100};
-    }
-    FileBytes key;
-    for (std::uint32_t channel = 0; channel < (row.colourType == 0 ? 1U : 3U); ++channel) {
-        const std::uint32_t sample = SampleOf(0, 0, channel, row.depth);
-        key.insert(key.end(), {static_cast<unsigned char>(sample >> 8U), static_cast<unsigned char>(sample)});
-    }
-    return key;
-}
-
-FileBytes PaletteOf(std::uint32_t depth) {
-    FileBytes palette;
-    for (std::uint32_t i = 0; i < 1U << depth; ++i) {
-        palette.insert(palette.end(), {static_cast<unsigned char>(i * 5), static_cast<unsigned char>(255 - i), 77});
-    }
-    return palette;
-}
-
-std::uint32_t ExpectedPixel(const PngRow& row, std::uint32_t x, std::uint32_t y) {
-    const auto sample = [&](std::uint32_t channel) { return SampleOf(x, y, channel, row.depth); };
-    const auto value = [&](std::uint32_t channel) {
-        return std::round(sample(channel) * 255.0 / ((1U << row.depth) - 1U));
-    };
-    if (row.colourType == 3) {
-        const double alpha = !row.hasTransparency || sample(0) > 1 ? 255 : sample(0) == 0 ? 0 : 100;
-        return PixelOf(sample(0) * 5 % 256, 255 - sample(0), 77, alpha);
-    }
-    const bool isGrey = row.colourType == 0 || row.colourType == 4;
-    bool isKey = row.hasTransparency;
-    for (std::uint32_t channel = 0; channel < (isGrey ? 1U : 3U); ++channel) {
-        isKey = isKey && sample(channel) == SampleOf(0, 0, channel, row.depth);
-    }
-    const double alpha = isKey ? 0 : row.colourType == 4 ? value(1) : row.colourType == 6 ? value(3) : 255;
-    return PixelOf(value(0), value(isGrey ? 0 : 1), value(isGrey ? 0 : 2), alpha);
-}
-
-void ExpectPng(const PngRow& row, std::uint32_t width, std::uint32_t height, bool isInterlaced) {
-    PngFile png{.width = width,
-                .height = height,
-                .depth = row.depth,
-                .colourType = row.colourType,
-                .isInterlaced = isInterlaced};
-    png.sample = [&](auto x, auto y, auto channel) { return SampleOf(x, y, channel, row.depth); };
-    // A gamma that would change the colours, and a profile that cannot be inflated.
-    png.chunks = PngFile::Chunk("gAMA", FromHex("00000001"));
-    const FileBytes more[] = {PngFile::Chunk("iCCP", FromHex("41000000000000")),
-                              row.colourType == 3 ? PngFile::Chunk("PLTE", PaletteOf(row.depth)) : FileBytes(),
-                              row.hasTransparency ? PngFile::Chunk("tRNS", TransparencyOf(row)) : FileBytes()};
-    for (const FileBytes& chunk : more) {
-        png.chunks.insert(png.chunks.end(), chunk.begin(), chunk.end());
-    }
-    const auto image = ReadMemoryPNGPixelImage(png.Make(), kMemory);
-    ASSERT_TRUE(image);
-    ASSERT_EQ(std::pair(image->GetWidth(), image->GetHeight()),
-              std::pair(static_cast<int>(width), static_cast<int>(height)));
-    EXPECT_TRUE(image->GetJpeg().empty());
-    bool isOpaque = true;
-    for (std::uint32_t i = 0; i < width * height; ++i) {
-        const std::uint32_t expected = ExpectedPixel(row, i % width, i / width);
-        EXPECT_EQ(image->GetPixels()[i], expected) << i;
-        isOpaque = isOpaque && expected >> 24U == 255;
-    }
-    EXPECT_EQ(image->IsOpaque(), isOpaque);
-}
-
 } // namespace
 
 TEST(ZAMPixelImageTest, HoldsWhatItIsGiven) {
@@ -182,22 +85,6 @@ TEST(ZAMPixelImageTest, HoldsWhatItIsGiven) {
     const auto other = ZAMNew<ZAMPixelImage>(1, 1, std::vector<std::uint32_t>(1, 0xFF123456), jpeg);
     EXPECT_TRUE(other->IsOpaque());
     EXPECT_EQ(other->GetJpeg().data(), jpeg->data());
-}
-
-TEST(ZAMPixelImageTest, ReadsPngOfEveryKind) {
-    const PngRow rows[] = {{0, 1, false}, {0, 2, false}, {0, 4, false}, {0, 8, false},  {0, 16, false}, {0, 1, true},
-                           {0, 4, true},  {0, 8, true},  {0, 16, true}, {2, 8, false},  {2, 16, false}, {2, 8, true},
-                           {2, 16, true}, {3, 1, false}, {3, 2, false}, {3, 4, false},  {3, 8, false},  {3, 1, true},
-                           {3, 4, true},  {3, 8, true},  {4, 8, false}, {4, 16, false}, {6, 8, false},  {6, 16, false}};
-    for (const PngRow& row : rows) {
-        for (const bool isInterlaced : {false, true}) {
-            SCOPED_TRACE(testing::Message() << "type " << row.colourType << " depth " << row.depth << " tRNS "
-                                            << row.hasTransparency << " interlaced " << isInterlaced);
-            ExpectPng(row, 1, 1, isInterlaced);
-            ExpectPng(row, 3, 10, isInterlaced);
-            ExpectPng(row, 19, 5, isInterlaced);
-        }
-    }
 }
 
 TEST(ZAMPixelImageTest, ReadsJpegOfEveryColourSpace) {
@@ -276,96 +163,6 @@ TEST(ZAMPixelImageTest, RefusesJpegThatOtherReadersCouldNotTake) {
     EXPECT_TRUE(ReadMemoryJPEGPixelImage(JpegFile{.frame = 0xC2, .refinements = 14 * 30}.Make(), kMemory));
 }
 
-TEST(ZAMPixelImageTest, ReadsBmpOfEveryKind) {
-    // The column "more" is what a long header has behind its first 40 bytes, else what stands between header and data.
-    const char* const kColours = "0000FF00 00FF0000 FF000000 FFFFFF00"; // red, green, blue, white
-    const struct {
-        const char* name;
-        std::int32_t width;
-        std::int32_t height;
-        std::uint32_t bits;
-        std::uint32_t compression;
-        std::uint32_t headerSize;
-        const char* more;
-        const char* data;
-        const char* pixels;
-    } rows[] = {
-        {"plain", 1, 2, 24, 0, 40, "", "010203FF 040506", "ff060504 ff030201"},
-        {"top-down", 1, -2, 24, 0, 40, "", "010203FF 040506", "ff030201 ff060504"},
-        {"no alpha", 1, 1, 32, 0, 40, "", "01020304", "ff030201"},
-        {"5 bits each", 2, 1, 16, 0, 40, "", "1F7C 2104", "ffff00ff,ff080808"},
-        {"5, 6, 5", 2, 1, 16, 3, 40, "00F80000 E0070000 1F000000", "FFFF 2000", "ffffffff,ff000400"},
-        {"alpha of 1 bit", 2, 1, 16, 3, 56, "007C0000 E0030000 1F000000 00800000", "1F80 1F00", "ff0000ff,00000000"},
-        {"no alpha yet", 1, 1, 32, 3, 52, "FF000000 00FF0000 0000FF00", "01020300", "ff010203"},
-        {"10 bits, version 5", 1, 1, 32, 3, 124, "0000F03F 00FC0F00 FF030000 000000C0", "FF03F0FF", "ffff00ff"},
-        {"alpha, version 4", 1, 1, 32, 3, 108, "0000FF00 00FF0000 FF000000 000000FF", "FF804033", "330d1a33"},
-        {"masks do not count", 1, 1, 32, 0, 108, "01000000 02000000 04000000 08000000", "01020300", "ff030201"},
-        {"alpha bit fields", 1, 1, 32, 6, 40, "FF000000 00FF0000 0000FF00 000000FF", "FFFF0080", "80808000"},
-        {"a field without bits", 1, 1, 32, 3, 52, "FFFFFFFF 00000000 01000000", "FFFFFFFF", "ffff00ff"},
-        {"a torn field", 1, 1, 32, 3, 52, "FF000000 000F0F00 01000000", "FFFFFFFF", "null"},
-        {"bit fields of 24 bits", 1, 1, 24, 3, 52, "01000000 02000000 04000000", "00000000", "null"},
-        {"8 bits", 4, 1, 8, 0, 40, kColours, "03020100", "ffffffff,ff0000ff,ff00ff00,ffff0000"},
-        {"beyond the palette", 2, 1, 8, 0, 40, kColours, "04FF0000", "ff000000,ff000000"},
-        {"no palette", 2, 1, 1, 0, 40, "", "80000000", "ff000000,ff000000"},
-        {"4 bits", 3, 1, 4, 0, 40, kColours, "123F0000", "ff00ff00,ff0000ff,ffffffff"},
-        {"1 bit", 3, 1, 1, 0, 40, kColours, "5F", "ffff0000,ff00ff00,ffff0000"},
-        {"1 bit in two bytes", 1, 2, 1, 0, 40, kColours, "80000000 00", "ffff0000 ff00ff00"},
-        {"OS/2 1", 1, 1, 8, 0, 12, "000000 010203", "01", "ff030201"},
-        {"OS/2 2, shortest", 1, 1, 8, 0, 16, kColours, "01", "ff00ff00"},
-        {"OS/2 2", 1, 1, 24, 0, 64, "", "010203", "ff030201"},
-        {"Huffman codes", 1, 1, 1, 3, 64, "", "00000000", "null"},
-        {"JPEG inside", 1, 1, 24, 4, 40, "", "00000000", "null"},
-        {"RLE8", 3, 2, 8, 1, 40, kColours, "0201 0102 0000 0003 000102AA 0001",
-         "ffff0000,ff00ff00,ff0000ff ff00ff00,ff00ff00,ff0000ff"},
-        {"RLE8, a short line", 2, 2, 8, 1, 40, kColours, "0101 0000 0503 0001", "ffffffff,ffffffff ff00ff00,00000000"},
-        {"RLE8, two bytes on", 2, 1, 8, 1, 40, kColours, "0004 03020100 0001", "ffffffff,ff0000ff"},
-        {"RLE8 that moves", 2, 3, 8, 1, 40, kColours, "0101 00020002 0103 0001",
-         "00000000,ffffffff 00000000,00000000 ff00ff00,00000000"},
-        {"RLE8 that moves away", 1, 2, 8, 1, 40, kColours, "0002FFFF", "00000000 00000000"},
-        {"RLE8 without an end", 2, 1, 8, 1, 40, kColours, "0203", "ffffffff,ffffffff"},
-        {"RLE4", 3, 2, 4, 2, 40, kColours, "0312 0000 0003 1230 0001",
-         "ff00ff00,ff0000ff,ffffffff ff00ff00,ff0000ff,ff00ff00"},
-        {"RLE4, top-down", 1, -2, 4, 2, 40, kColours, "0110 0000 0120", "ff00ff00 ff0000ff"},
-        {"RLE8 of 4 bits", 1, 1, 4, 1, 40, kColours, "0100 0001", "null"},
-        {"no width", 0, 1, 24, 0, 40, "", "01020300", "null"},
-        {"no height", 1, 0, 24, 0, 40, "", "01020300", "null"},
-        {"a negative width", -1, 1, 24, 0, 40, "", "01020300", "null"},
-        {"the lowest height", 1, INT32_MIN, 24, 0, 40, "", "01020300", "null"},
-        {"2 bits", 1, 1, 2, 0, 40, kColours, "00000000", "null"},
-        {"a header too long", 1, 1, 24, 0, 125, "", "01020300", "null"}};
-    for (const auto& row : rows) {
-        const bool isLong = row.headerSize > 40;
-        const BmpFile file{.width = row.width,
-                           .height = row.height,
-                           .bits = row.bits,
-                           .compression = row.compression,
-                           .headerSize = row.headerSize,
-                           .laterFields = FromHex(isLong ? row.more : ""),
-                           .between = FromHex(isLong ? "" : row.more),
-                           .data = FromHex(row.data)};
-        EXPECT_EQ(TextOf(ReadMemBMPPixelImage(file.Make(), kMemory)), row.pixels) << row.name;
-    }
-}
-
-TEST(ZAMPixelImageTest, DoesNotBelieveWhatABmpSaysOfItsParts) {
-    const struct {
-        std::uint32_t colourCount;
-        std::int32_t offsetError;
-        const char* pixels;
-    } rows[] = {{0, 0, "ff00ff00"},          {1, 0, "ff000000"}, {2, 0, "ff00ff00"}, {0xFFFFFFFF, 0, "ff00ff00"},
-                {0, -4, "ffff0000"},         {0, -9, "null"},    {0, 1, "null"},     {0, 2, "null"},
-                {0, INT32_MAX - 100, "null"}};
-    for (const auto& row : rows) {
-        const BmpFile file{.bits = 8,
-                           .colourCount = row.colourCount,
-                           .between = FromHex("0000FF00 00FF0000"),
-                           .data = FromHex("01"),
-                           .offsetError = row.offsetError};
-        EXPECT_EQ(TextOf(ReadMemBMPPixelImage(file.Make(), kMemory)), row.pixels)
-            << row.colourCount << ' ' << row.offsetError;
-    }
-}
-
 TEST(ZAMPixelImageTest, APictureIsWholeOrNull) {
     for (const FileBytes& file : AllKinds()) {
         SCOPED_TRACE(testing::Message() << "begins with " << static_cast<int>(file[0]) << ", " << file.size()
@@ -381,19 +178,6 @@ TEST(ZAMPixelImageTest, APictureIsWholeOrNull) {
         FileBytes longer = file;
         longer.insert(longer.end(), {0, 1, 2});
         EXPECT_EQ(TextOf(Read(longer)), whole);
-    }
-}
-
-// Checksums cover all of a PNG file, those of chunks that are passed over included.
-TEST(ZAMPixelImageTest, EveryWrongBitOfAPngIsNoticed) {
-    PngFile png{.width = 2, .height = 2, .sample = [](auto x, auto y, auto) { return x + y; }};
-    png.chunks = PngFile::Chunk("tEXt", FromHex("410042"));
-    FileBytes file = png.Make();
-    ASSERT_TRUE(ReadMemoryPNGPixelImage(file, kMemory));
-    for (std::size_t bit = 0; bit < file.size() * 8; ++bit) {
-        file[bit / 8] ^= static_cast<unsigned char>(1U << bit % 8);
-        EXPECT_FALSE(ReadMemoryPNGPixelImage(file, kMemory)) << bit;
-        file[bit / 8] ^= static_cast<unsigned char>(1U << bit % 8);
     }
 }
 
