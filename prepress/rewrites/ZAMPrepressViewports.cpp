@@ -61,14 +61,28 @@ bool ShowsOverflow(const ZAMPrepressElement& svg) {
 }
 
 // What is drawn through properties may have coordinates of its own.
+struct OwnCoordinates {
+    std::string_view element;
+    std::string_view units; ///< the attribute that may say that they are fractions of a box; empty for none
+    bool hasViewBox;
+};
+constexpr OwnCoordinates kOwnCoordinates[] = {
+    {"clipPath", "clipPathUnits", false},
+    {"mask", "maskContentUnits", false},
+    {"pattern", "patternContentUnits", true},
+    {"marker", "", true},
+    {"symbol", "", true},
+};
+
 ZAMPrepressViewportSize SizeWithin(const ZAMPrepressElement& element, const ZAMPrepressViewportSize& around) {
-    const bool countsBox = element.Get("clipPathUnits") == "objectBoundingBox" ||
-                           element.Get("maskContentUnits") == "objectBoundingBox" ||
-                           element.Get("patternContentUnits") == "objectBoundingBox";
-    if (countsBox) {
+    const auto* const own = std::ranges::find(kOwnCoordinates, element.name, &OwnCoordinates::element);
+    if (own == std::end(kOwnCoordinates)) {
+        return around;
+    }
+    if (!own->units.empty() && element.Get(own->units) == "objectBoundingBox") {
         return {1.0, 1.0};
     }
-    const auto viewBox = ZAMPrepressReadViewBox(element.Get(kViewBox));
+    const auto viewBox = own->hasViewBox ? ZAMPrepressReadViewBox(element.Get(kViewBox)) : std::nullopt;
     return viewBox ? ZAMPrepressViewportSize{(*viewBox)[2], (*viewBox)[3]} : around;
 }
 
