@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr std::size_t kFewChildren = 3; // fill the smallest block that an allocator hands out
+
 // Walks a subtree that is to become a child. Shared parts are walked as often as they would be drawn, so the walk ends
 // when the cost exceeds what the budget has left.
 class Inspection {
@@ -40,6 +42,9 @@ void ZAMPrtChildren::Add(const ZAMPrtGraphicPrimitiveElt& owner, ZAMPrtGraphicPr
     }
     Inspection inspection(owner, child->_WasAttached);
     if (inspection.Passes(*child, kZAMPrtMaximumHeight) && ZAMAllocationBudget::Spend(inspection.GetCost())) {
+        if (_Children.capacity() == 0) {
+            _Children.reserve(kFewChildren);
+        }
         _Children.push_back(ZAMRef<ZAMPrtGraphicPrimitiveElt>::Share(child));
         child->_WasAttached = true;
     }

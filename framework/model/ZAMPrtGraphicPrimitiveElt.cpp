@@ -9,13 +9,27 @@ const ZAMMetaObject& ZAMPrtGraphicPrimitiveElt::MetaObject() {
     return kMetaObject;
 }
 
-ZAMPrtGraphicPrimitiveElt::ZAMPrtGraphicPrimitiveElt(const ZAMPrtGraphicPrimitiveElt& other)
-    : ZAMBaseUnknown(other), _Transform(other._Transform), _Id(other._Id),
-      _Texts(other._Texts ? std::make_unique<RareTexts>(*other._Texts) : nullptr) {}
+const ZAMPrtGraphicPrimitiveElt::Texts ZAMPrtGraphicPrimitiveElt::kNoTexts;
+const ZAMPrtTransformAttributes ZAMPrtGraphicPrimitiveElt::kNoTransform;
 
-ZAMPrtGraphicPrimitiveElt::RareTexts& ZAMPrtGraphicPrimitiveElt::Texts() {
-    if (!_Texts) {
-        _Texts = std::make_unique<RareTexts>();
+ZAMPrtGraphicPrimitiveElt::ZAMPrtGraphicPrimitiveElt(const ZAMPrtGraphicPrimitiveElt& other)
+    : ZAMBaseUnknown(other),
+      _Transform(other._Transform ? std::make_unique<ZAMPrtTransformAttributes>(*other._Transform) : nullptr),
+      _Texts(other._Texts ? std::make_unique<Texts>(*other._Texts) : nullptr) {}
+
+void ZAMPrtGraphicPrimitiveElt::SetTransformAttributes(const ZAMPrtTransformAttributes& transform) {
+    if (_Transform) {
+        *_Transform = transform;
+    } else if (!transform.IsIdentity()) {
+        _Transform = std::make_unique<ZAMPrtTransformAttributes>(transform);
     }
-    return *_Texts;
+}
+
+void ZAMPrtGraphicPrimitiveElt::SetText(ZAMUnicodeString Texts::*which, std::string_view text) {
+    if (!_Texts && !text.empty()) {
+        _Texts = std::make_unique<Texts>();
+    }
+    if (_Texts) {
+        (*_Texts).*which = text;
+    }
 }

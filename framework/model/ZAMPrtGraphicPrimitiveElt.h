@@ -44,17 +44,17 @@ public:
     /// The element's children; valid until they change, empty for an element that is no container.
     [[nodiscard]] virtual ZAMPrtChildSpan GetChildren() const { return {}; }
 
-    void SetID(std::string_view id) { _Id = id; }
-    [[nodiscard]] const ZAMUnicodeString& GetID() const { return _Id; }
-    void SetTitle(std::string_view title) { Texts().title = title; }
-    [[nodiscard]] std::string_view GetTitle() const { return _Texts ? _Texts->title.View() : std::string_view(); }
-    void SetDescription(std::string_view description) { Texts().description = description; }
-    [[nodiscard]] std::string_view GetDescription() const {
-        return _Texts ? _Texts->description.View() : std::string_view();
-    }
+    void SetID(std::string_view id) { SetText(&Texts::id, id); }
+    [[nodiscard]] const ZAMUnicodeString& GetID() const { return GetTexts().id; }
+    void SetTitle(std::string_view title) { SetText(&Texts::title, title); }
+    [[nodiscard]] std::string_view GetTitle() const { return GetTexts().title; }
+    void SetDescription(std::string_view description) { SetText(&Texts::description, description); }
+    [[nodiscard]] std::string_view GetDescription() const { return GetTexts().description; }
 
-    [[nodiscard]] const ZAMPrtTransformAttributes& GetTransformAttributes() const { return _Transform; }
-    void SetTransformAttributes(const ZAMPrtTransformAttributes& transform) { _Transform = transform; }
+    [[nodiscard]] const ZAMPrtTransformAttributes& GetTransformAttributes() const {
+        return _Transform ? *_Transform : kNoTransform;
+    }
+    void SetTransformAttributes(const ZAMPrtTransformAttributes& transform);
 
 protected:
     ZAMPrtGraphicPrimitiveElt() = default;
@@ -67,18 +67,21 @@ protected:
 private:
     friend class ZAMPrtChildren;
 
-    // Few elements have one, so that they stay out of the others.
-    struct RareTexts {
+    struct Texts {
+        ZAMUnicodeString id;
         ZAMUnicodeString title;
         ZAMUnicodeString description;
     };
+    static const Texts kNoTexts;
+    static const ZAMPrtTransformAttributes kNoTransform;
 
-    RareTexts& Texts();
+    void SetText(ZAMUnicodeString Texts::*which, std::string_view text);
+    [[nodiscard]] const Texts& GetTexts() const { return _Texts ? *_Texts : kNoTexts; }
 
-    ZAMPrtTransformAttributes _Transform;
-    ZAMUnicodeString _Id;
-    std::unique_ptr<RareTexts> _Texts;
     bool _WasAttached = false; // a container took it as a child once
+    // A path is many small pieces, and a piece has neither a transform nor texts: null then.
+    std::unique_ptr<ZAMPrtTransformAttributes> _Transform;
+    std::unique_ptr<Texts> _Texts;
 };
 
 /// The element as a `T`, or null when its class is not exactly `T`.

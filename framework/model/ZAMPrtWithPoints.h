@@ -4,25 +4,27 @@
 #include "framework/base/ZAMExport.h"
 #include "framework/mathematics/ZAMMathPoint2D.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <span>
-#include <vector>
 
 /// Gives an element class a list of points, on top of the attributes of `Base`. Copies of the element share the list.
 template <class Base> class ZAM_EXPORT ZAMPrtWithPoints : public Base {
 public:
     /// Copies `count` points; fewer than one leave the element without points.
     void SetPoints(const ZAMMathPoint2D* points, int count) {
-        if (points == nullptr || count < 1) {
-            _Points.reset();
-            return;
-        }
-        _Points = std::make_shared<const std::vector<ZAMMathPoint2D>>(points, points + count);
+        const std::size_t copied = points == nullptr || count < 1 ? 0 : static_cast<std::size_t>(count);
+        std::copy_n(points, copied, NewPoints(copied).begin());
     }
-    [[nodiscard]] std::span<const ZAMMathPoint2D> GetPoints() const {
-        return _Points ? std::span<const ZAMMathPoint2D>(*_Points) : std::span<const ZAMMathPoint2D>();
+    /// Gives the element a new list of `count` points, for the caller to fill before anybody reads or copies it.
+    std::span<ZAMMathPoint2D> NewPoints(std::size_t count) {
+        const auto points = count == 0 ? nullptr : std::make_shared<ZAMMathPoint2D[]>(count);
+        _Points = points;
+        _Count = count;
+        return {points.get(), count};
     }
+    [[nodiscard]] std::span<const ZAMMathPoint2D> GetPoints() const { return {_Points.get(), _Count}; }
 
     [[nodiscard]] std::size_t GetCost() const override {
         constexpr std::size_t kPointsForOne = 32;
@@ -30,5 +32,6 @@ public:
     }
 
 private:
-    std::shared_ptr<const std::vector<ZAMMathPoint2D>> _Points;
+    std::shared_ptr<const ZAMMathPoint2D[]> _Points; // the list and its owners' count in one piece of memory
+    std::size_t _Count = 0;
 };
