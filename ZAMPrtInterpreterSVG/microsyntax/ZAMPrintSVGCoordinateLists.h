@@ -15,13 +15,13 @@ public:
 
     void GetXCoordListFromXCoordListString(std::string_view text, ZAMRawColldouble& list) const {
         for (Cursor cursor(text); !cursor.AtEnd();) {
-            AppendX(cursor.Next().text, list);
+            AppendX(cursor.Next(), list);
         }
     }
 
     void GetYCoordListFromYCoordListString(std::string_view text, ZAMRawColldouble& list) const {
         for (Cursor cursor(text); !cursor.AtEnd();) {
-            AppendY(cursor.Next().text, list);
+            AppendY(cursor.Next(), list);
         }
     }
 
@@ -31,26 +31,30 @@ public:
         while (!cursor.AtEnd()) {
             const auto first = cursor.Next();
             if (!first.separated) {
-                AppendY(first.text, list);
+                AppendY(first, list);
                 return;
             }
-            AppendX(first.text, list);
-            AppendY(cursor.Next().text, list);
+            AppendX(first, list);
+            AppendY(cursor.Next(), list);
         }
     }
 
 private:
     using Cursor = ZAMPrintSVGTokenCursor<minus>;
 
-    void AppendX(std::string_view token, ZAMRawColldouble& list) const {
-        double value = 0.0;
-        if (GetXCoordinate(token, value) > 0) {
+    using Token = typename Cursor::Token;
+
+    void AppendX(const Token& token, ZAMRawColldouble& list) const {
+        double value = token.number;
+        if (token.isPlain || GetXCoordinate(token.text, value) > 0) {
             list.Append(value);
         }
     }
-    void AppendY(std::string_view token, ZAMRawColldouble& list) const {
+    void AppendY(const Token& token, ZAMRawColldouble& list) const {
         double value = 0.0;
-        if (GetYCoordinate(token, value) > 0) {
+        if (token.isPlain) {
+            list.Append(_FlipY ? _ImageHeight - token.number : token.number);
+        } else if (GetYCoordinate(token.text, value) > 0) {
             list.Append(value);
         }
     }

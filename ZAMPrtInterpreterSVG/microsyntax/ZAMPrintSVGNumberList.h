@@ -10,8 +10,9 @@
 /// with none is dropped.
 template <class Take> void ZAMPrintSVGForEachNumber(std::string_view text, Take take) {
     for (ZAMPrintSVGTokenCursor<ZAMPrintSVGMinus::IsPart> cursor(text); !cursor.AtEnd();) {
-        double value = 0.0;
-        if (ZAMReadDouble(cursor.Next().text, value) == 1) {
+        const auto token = cursor.Next();
+        double value = token.number;
+        if (token.isPlain || ZAMReadDouble(token.text, value) == 1) {
             take(value);
         }
     }

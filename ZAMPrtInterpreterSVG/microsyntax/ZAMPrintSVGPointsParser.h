@@ -7,9 +7,9 @@
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGCoordinateLists.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGMarkers.h"
 
+#include <cstddef>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 /// Reads the points of a polyline or polygon (SVG 1.1, 9.7.1). A minus sign separates nothing: "10-20" reads as 10.
 class ZAMPrintSVGPointsParser : public ZAMPrintSVGCoordinateLists<ZAMPrintSVGMinus::IsPart> {
@@ -39,15 +39,16 @@ private:
         }
         ZAMRawColldouble list;
         GetPointListFromPointListString(text, list);
-        const std::vector<ZAMMathPoint2D> points = ToPoints(list);
-        if (!points.empty()) {
-            element->SetPoints(points.data(), static_cast<int>(points.size()));
+        if (list.GetCount() > 1) {
+            std::size_t value = 0;
+            for (ZAMMathPoint2D& point : element->NewPoints(list.GetCount() / 2)) {
+                point = {list[value + 1], list[value + 2]};
+                value += 2;
+            }
         }
         _Markers.AddMarkers(list, _FlipY, _ImageHeight, markerParent);
         return 1;
     }
-
-    [[nodiscard]] static std::vector<ZAMMathPoint2D> ToPoints(const ZAMRawColldouble& list);
 
     ZAMPrintSVGMarkers _Markers;
 };

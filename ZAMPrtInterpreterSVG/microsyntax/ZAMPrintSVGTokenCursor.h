@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "framework/base/ZAMNumberReading.h"
+
 #include <cstddef>
 #include <string_view>
 
@@ -14,6 +16,8 @@ public:
     struct Token {
         std::string_view text;
         bool separated; ///< something separates it from what follows: it is not the text's very end
+        bool isPlain;   ///< it is a plain decimal number, as nearly all are, and that is `number`
+        double number;
     };
 
     explicit ZAMPrintSVGTokenCursor(std::string_view text) : _Rest(text) {}
@@ -26,10 +30,13 @@ public:
         while (!_Rest.empty() && IsSeparator(_Rest.front())) {
             _Rest.remove_prefix(1);
         }
-        const std::size_t length = Length();
-        const Token token{_Rest.substr(0, length), length < _Rest.size()};
-        _Rest.remove_prefix(length);
-        if (!_Rest.empty() && IsSeparator(_Rest.front())) {
+        Token token{_Rest, false, false, 0.0};
+        token.isPlain = ZAMTakePlainDouble(_Rest, token.number) && IsTokenEnd();
+        const std::size_t length = token.isPlain ? token.text.size() - _Rest.size() : Length(token.text);
+        _Rest = token.text.substr(length);
+        token.text.remove_suffix(_Rest.size());
+        token.separated = !_Rest.empty();
+        if (token.separated && IsSeparator(_Rest.front())) {
             _Rest.remove_prefix(1);
         }
         return token;
@@ -38,19 +45,25 @@ public:
 private:
     static bool IsSeparator(char c) { return c == ' ' || c == ','; }
 
-    [[nodiscard]] std::size_t Length() const {
-        for (std::size_t i = 0; i < _Rest.size(); ++i) {
-            const char c = _Rest[i];
+    // Whether a number that has been eaten is all of its token.
+    [[nodiscard]] bool IsTokenEnd() const {
+        return _Rest.empty() || IsSeparator(_Rest.front()) ||
+               (minus == ZAMPrintSVGMinus::StartsToken && _Rest.front() == '-');
+    }
+
+    static std::size_t Length(std::string_view text) {
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            const char c = text[i];
             if (IsSeparator(c)) {
                 return i;
             }
             if constexpr (minus == ZAMPrintSVGMinus::StartsToken) {
-                if (c == '-' && i > 0 && _Rest[i - 1] != 'e') {
+                if (c == '-' && i > 0 && text[i - 1] != 'e') {
                     return i;
                 }
             }
         }
-        return _Rest.size();
+        return text.size();
     }
 
     std::string_view _Rest;

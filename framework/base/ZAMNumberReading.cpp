@@ -75,6 +75,48 @@ constexpr bool StartsDecimal(std::string_view text) {
     return !text.empty() && (IsDigit(text[0]) || (text[0] == '.' && text.size() > 1 && IsDigit(text[1])));
 }
 
+// Digits, a point, digits: coordinates are short. Up to 2^53 and 10^22 the digits and the power of ten are exact, so
+// that their quotient is the correctly rounded value; what is longer, or has an exponent, is left to the library.
+class ShortDecimal {
+public:
+    explicit ShortDecimal(std::string_view text) : _Rest(text) {
+        TakeDigits();
+        if (!_Rest.empty() && _Rest.front() == '.') {
+            _Rest.remove_prefix(1);
+            const std::size_t digits = _Digits;
+            TakeDigits();
+            _Decimals = _Digits - digits;
+        }
+    }
+
+    [[nodiscard]] bool IsExact() const {
+        constexpr std::uint64_t kLargestExact = std::uint64_t{1} << 53U;
+        return _Digits <= std::numeric_limits<std::uint64_t>::digits10 && _Mantissa <= kLargestExact;
+    }
+    [[nodiscard]] double GetValue() const { return static_cast<double>(_Mantissa) / kPowersOfTen[_Decimals]; }
+    /// What follows the number.
+    [[nodiscard]] std::string_view GetRest() const { return _Rest; }
+
+private:
+    static constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
+                                              1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
+
+    // More digits than the mantissa holds make it wrap; it is not used then.
+    void TakeDigits() {
+        std::size_t count = 0;
+        for (; count < _Rest.size() && IsDigit(_Rest[count]); ++count) {
+            _Mantissa = _Mantissa * 10 + static_cast<std::uint64_t>(_Rest[count] - '0');
+        }
+        _Digits += count;
+        _Rest.remove_prefix(count);
+    }
+
+    std::string_view _Rest;
+    std::uint64_t _Mantissa = 0;
+    std::size_t _Digits = 0;
+    std::size_t _Decimals = 0;
+};
+
 // The scan commits itself to a word or a hexadecimal number by its first letters and reads nothing when the rest is not
 // there: "infi" and "0x" are no numbers, though "inf" and "0" would be.
 int ReadUnsignedDouble(std::string_view text, double& value) {
@@ -139,16 +181,36 @@ int ZAMReadUnsigned(std::string_view text, unsigned int& value) noexcept {
     return 1;
 }
 
-bool ZAMReadPlainDouble(std::string_view text, double& value) noexcept {
+bool ZAMTakePlainDouble(std::string_view& text, double& value) noexcept {
     const bool negative = !text.empty() && text.front() == '-';
-    if (!StartsDecimal(negative ? text.substr(1) : text)) {
+    const std::string_view digits = text.substr(negative ? 1 : 0);
+    if (!StartsDecimal(digits)) {
         return false;
     }
-    double number = 0.0;
-    const char* const end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end) {
+    const ShortDecimal number(digits);
+    const double magnitude = number.IsExact() ? number.GetValue()
+                                              : ReadMagnitude(digits.substr(0, digits.size() - number.GetRest().size()),
+                                                              std::chars_format::fixed);
+    if (std::isinf(magnitude)) {
         return false;
+    }
+    value = negative ? -magnitude : magnitude;
+    text = number.GetRest();
+    return true;
+}
+
+bool ZAMReadPlainDouble(std::string_view text, double& value) noexcept {
+    std::string_view rest = text;
+    double number = 0.0;
+    if (!ZAMTakePlainDouble(rest, number)) {
+        return false;
+    }
+    if (!rest.empty()) {
+        const char* const end = text.data() + text.size();
+        const auto result = std::from_chars(text.data(), end, number);
+        if (result.ec != std::errc() || result.ptr != end) {
+            return false;
+        }
     }
     value = number;
     return true;

@@ -21,3 +21,7 @@ ZAM_EXPORT int ZAMReadUnsigned(std::string_view text, unsigned int& value) noexc
 /// Reads a text that is one plain decimal number and nothing else ("12", "-.5", "1e3"): the form that nearly every
 /// number of a real document has. False, and `value` as it was, for any other text.
 ZAM_EXPORT bool ZAMReadPlainDouble(std::string_view text, double& value) noexcept;
+
+/// Eats the decimal number without an exponent that `text` starts with ("-1.25" of "-1.25e3"), whatever follows it.
+/// False, and both as they were, when it starts with none.
+ZAM_EXPORT bool ZAMTakePlainDouble(std::string_view& text, double& value) noexcept;

@@ -6,6 +6,7 @@
 #include "framework/base/ZAMTextCompare.h"
 #include "tests/support/PieceText.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPathParser.h"
+#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPointsParser.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGTransformParser.h"
 
 #include <gtest/gtest.h>
@@ -152,6 +153,51 @@ TEST(RewritingRules, Path) {
         results.insert(result);
     }
     EXPECT_GT(results.size(), 1000U); // the texts say something
+}
+
+// Points as they are read: x and y in turn, but the very last token is a y.
+std::string TidyPoints(const ZAMPrintSVGLengthReader& reader, std::string text) {
+    ReplaceAll(text, ",", " ");
+    std::string tidy;
+    const auto append = [&](const std::string& token, bool isX) {
+        double value = 0.0;
+        if ((isX ? reader.GetXCoordinate(token, value) : reader.GetYCoordinate(token, value)) > 0) {
+            tidy += Number(value);
+        }
+    };
+    while (!text.empty()) {
+        TrimLeft(text);
+        if (text.find(' ') != std::string::npos) {
+            append(Cut(text, ' '), true);
+        }
+        TrimLeft(text);
+        append(Cut(text, ' '), false);
+    }
+    return tidy;
+}
+
+TEST(RewritingRules, Points) {
+    const std::string words = "0|1|2|3|.|-|+|e|E|e-|0x|,| | | | 1| 2|-3| 4 5|1.25,-7.5 |12345678.9 |%|p|t|mm|inf|\t";
+    std::mt19937 random(2006); // NOLINT
+    std::set<std::string> results;
+    for (int i = 0; i < 4000; ++i) {
+        const std::string text = RandomText(random, words, 16);
+        ZAMPrintSVGPointsParser parser;
+        parser.SetImageSize(300.0, 40.0);
+        parser._FlipY = false;
+        const std::string tidy = TidyPoints(parser, text);
+        const auto read = [&parser](const std::string& points) {
+            const auto line = ZAMNew<ZAMPrtPolylineElt>();
+            const auto group = ZAMNew<ZAMPrtGroupElt>();
+            group->AddChild(line.Get());
+            parser.ParsePointsString(line.Get(), points, nullptr);
+            return PieceText(*group, 17);
+        };
+        const std::string result = read(text);
+        ASSERT_EQ(result, read(tidy)) << text << "\nas " << tidy;
+        results.insert(result);
+    }
+    EXPECT_GT(results.size(), 500U);
 }
 
 std::string TidyTransform(std::string text) {

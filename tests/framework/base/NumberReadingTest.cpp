@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <random>
 #include <sstream>
@@ -100,6 +101,46 @@ TEST(NumberReadingTest, APlainNumberIsOneNumberAndNothingElse) {
     for (const auto& row : rows) {
         double value = kUntouched;
         EXPECT_EQ(ZAMReadPlainDouble(row.text, value), row.plain) << row.text;
+    }
+}
+
+TEST(NumberReadingTest, ANumberWithoutExponentIsTakenAndTheRestIsLeft) {
+    const struct {
+        const char* text;
+        const char* rest;
+    } rows[] = {{"12", ""},      {"-.5 7", " 7"}, {"5.", ""},     {"1.5e3", "e3"}, {"1-2", "-2"},   {"0.1.2", ".2"},
+                {"007,1", ",1"}, {"-0", ""},      {"", nullptr},  {"-", nullptr},  {".", nullptr},  {"+1", nullptr},
+                {" 1", nullptr}, {"e5", nullptr}, {"12mm", "mm"}, {"0x1", "x1"},   {"inf", nullptr}};
+    for (const auto& row : rows) {
+        std::string_view text = row.text;
+        double value = kUntouched;
+        ASSERT_EQ(ZAMTakePlainDouble(text, value), row.rest != nullptr) << row.text;
+        EXPECT_EQ(text, row.rest == nullptr ? row.text : row.rest) << row.text;
+        const std::string taken(row.text, text.data());
+        EXPECT_TRUE(row.rest == nullptr ? value == kUntouched
+                                        : IsSameDouble(value, std::strtod(taken.c_str(), nullptr)))
+            << row.text;
+    }
+    // Too large without an exponent.
+    const std::string huge = "1" + std::string(400, '0');
+    std::string_view text = huge;
+    double value = kUntouched;
+    EXPECT_FALSE(ZAMTakePlainDouble(text, value));
+    EXPECT_EQ(value, kUntouched);
+}
+
+// About the lengths at which the quick way of reading hands over to the library, and at values between two doubles.
+TEST(NumberReadingTest, RandomCoordinatesAreRoundedRightly) {
+    std::mt19937_64 random(53); // NOLINT: every run tries the same numbers
+    for (int i = 0; i < 200'000 && !testing::Test::HasFailure(); ++i) {
+        std::string number = std::to_string(random() >> random() % 64);
+        number.insert(random() % (number.size() + 1), ".");
+        number.insert(0, std::string(random() % 4, '0'));
+        ExpectAsTheScan((random() % 2 == 0 ? "-" : "") + number);
+    }
+    for (const char* text : {"9007199254740992", "9007199254740993", "900719925474099.3", "9007199254740993.0",
+                             "0.0000000000000000001", "0.00000000000000000001", "9999999999999999999"}) {
+        ExpectAsTheScan(text);
     }
 }
 
