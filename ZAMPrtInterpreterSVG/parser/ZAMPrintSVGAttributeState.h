@@ -7,6 +7,7 @@
 #include "ZAMPrtInterpreterSVG/defs/ZAMPrintSVGReference.h"
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 /// The attributes that an element hands down to its children: a plain value.
@@ -25,8 +26,10 @@ struct ZAMPrintSVGAttributeState {
 
 /// What a kind of element saves of the state.
 enum class ZAMPrintSVGSaved {
-    All,  ///< containers and text
-    Paint ///< all but the text attributes: what the style of a shape sets there stays set
+    All,   ///< containers and text
+    Paint, ///< all but the text attributes: what the style of a shape sets there stays set
+    Text,  ///< a container without a property of its own: only the shapes in it may leave something behind
+    Nothing
 };
 
 /// Saves the state of a parser and writes it back at the end of the scope, so that nothing an element sets reaches its
@@ -34,18 +37,31 @@ enum class ZAMPrintSVGSaved {
 class ZAMPrintSVGStateScope {
 public:
     explicit ZAMPrintSVGStateScope(ZAMPrintSVGAttributeState& state, ZAMPrintSVGSaved what = ZAMPrintSVGSaved::All)
-        : _State(state), _Saved(state), _What(what) {}
+        : _State(state), _What(what) {
+        if (what == ZAMPrintSVGSaved::All || what == ZAMPrintSVGSaved::Paint) {
+            _Saved = state;
+        } else if (what == ZAMPrintSVGSaved::Text) {
+            _SavedText = state._TextAttributes;
+        }
+    }
     ZAMPrintSVGStateScope(const ZAMPrintSVGStateScope&) = delete;
     ZAMPrintSVGStateScope& operator=(const ZAMPrintSVGStateScope&) = delete;
     ~ZAMPrintSVGStateScope() {
-        if (_What == ZAMPrintSVGSaved::Paint) {
-            _Saved._TextAttributes = _State._TextAttributes;
+        if (_What == ZAMPrintSVGSaved::Text) {
+            _State._TextAttributes = _SavedText;
         }
-        _State = std::move(_Saved);
+        if (!_Saved) {
+            return;
+        }
+        if (_What == ZAMPrintSVGSaved::Paint) {
+            _Saved->_TextAttributes = _State._TextAttributes;
+        }
+        _State = *std::move(_Saved);
     }
 
 private:
     ZAMPrintSVGAttributeState& _State;
-    ZAMPrintSVGAttributeState _Saved;
+    std::optional<ZAMPrintSVGAttributeState> _Saved;
+    ZAMPrtTextAttributes _SavedText;
     ZAMPrintSVGSaved _What;
 };

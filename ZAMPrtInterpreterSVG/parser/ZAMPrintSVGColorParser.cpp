@@ -111,12 +111,19 @@ int ZAMPrintSVGColorParser::ParseFunction(std::string_view& rest, unsigned int& 
 }
 
 int ZAMPrintSVGColorParser::ParseKeyword(std::string_view text, unsigned int& index) const {
-    for (const ZAMPrintSVGColorKeyword& keyword : SVG_ColorKeywordTab) {
-        if (ZAMTextMatches(keyword.name, text)) {
-            return Store(keyword.red, keyword.green, keyword.blue, index);
-        }
+    const auto nameOf = [](const ZAMPrintSVGColorKeyword& keyword) { return std::string_view(keyword.name); };
+    // The table is nearly in the order of the alphabet, but not quite.
+    static const auto keywords = [nameOf] {
+        auto sorted = SVG_ColorKeywordTab;
+        std::ranges::sort(sorted, {}, nameOf);
+        return sorted;
+    }();
+    const std::string name = ZAMFoldText(text);
+    const auto* const keyword = std::ranges::lower_bound(keywords, std::string_view(name), {}, nameOf);
+    if (keyword == keywords.end() || name != keyword->name) {
+        return -1;
     }
-    return -1;
+    return Store(keyword->red, keyword->green, keyword->blue, index);
 }
 
 // Only the low eight bits of a component count.

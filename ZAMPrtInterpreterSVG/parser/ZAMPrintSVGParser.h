@@ -8,6 +8,7 @@
 #include "ZAMPrtInterpreterSVG/defs/ZAMPrintSVGDefinitions.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGLengthReader.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGMarkers.h"
+#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPathParser.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGAttributeState.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGFontFinder.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGPatternBitmaps.h"
@@ -230,7 +231,10 @@ private:
         PropertyReader inStyle;     ///< null where the declaration has no effect
     };
     static const PropertyRow kProperties[];
-    void ReadAttributes(const ZAMLightXmlElementItf& element, ReadingOperation operation);
+    static constexpr std::uint64_t AttributeBits(ReadingOperation operation);
+    template <ReadingOperation operation> void ReadAttributes(const ZAMLightXmlElementItf& element);
+    // Whether the element has a property or a style: without one there is nothing to save.
+    static bool MayChangeState(const ZAMLightXmlElementItf& element);
     void ReadDeclaration(std::string_view declaration, PendingPaint& pending);
     void Apply(const PendingPaint& pending);
 
@@ -284,4 +288,5 @@ private:
     ZAMPrintSVGPatternBitmaps _PatternBitmaps;
     ZAMPrintSVGPictures _Pictures;
     ZAMPrintSVGFontFinder _Fonts;
+    ZAMPrintSVGPathParser _PathParser; // one for all paths: it keeps its memory
 };

@@ -54,7 +54,7 @@ std::string_view TakeDeclaration(std::string_view& style) {
 } // namespace
 
 // In the order in which the attributes of one operation are read. Where the two readers differ, so do the two forms.
-const ZAMPrintSVGParser::PropertyRow ZAMPrintSVGParser::kProperties[] = {
+constexpr ZAMPrintSVGParser::PropertyRow ZAMPrintSVGParser::kProperties[] = {
     {"opacity", ReadingOperation::Opacity, &ZAMPrintSVGParser::ReadOpacity, &ZAMPrintSVGParser::ReadOpacity},
     {"stroke-opacity", ReadingOperation::Opacity, &ZAMPrintSVGParser::ReadStrokeOpacity,
      &ZAMPrintSVGParser::ReadStrokeOpacity},
@@ -113,39 +113,34 @@ void ZAMPrintSVGParser::ParsePresentationAttrib(const ZAMLightXmlElementItf& ele
     ParseMarkerAttrib(element);
 }
 
-void ZAMPrintSVGParser::ParseOpacityAttrib(const ZAMLightXmlElementItf& element) {
-    ReadAttributes(element, ReadingOperation::Opacity);
+// The bits of the attributes that an operation reads.
+constexpr std::uint64_t ZAMPrintSVGParser::AttributeBits(ReadingOperation operation) {
+    std::uint64_t bits = 0;
+    for (const PropertyRow& row : kProperties) {
+        if (row.operation == operation && row.asAttribute != nullptr) {
+            bits |= row.name.GetBit();
+        }
+    }
+    return bits;
 }
 
-void ZAMPrintSVGParser::ParseColorAttrib(const ZAMLightXmlElementItf& element) {
-    ReadAttributes(element, ReadingOperation::Color);
+bool ZAMPrintSVGParser::MayChangeState(const ZAMLightXmlElementItf& element) {
+    static constexpr std::uint64_t kStateBits = [] {
+        std::uint64_t bits = ZAMLightXmlName("style").GetBit();
+        for (const PropertyRow& row : kProperties) {
+            bits |= row.name.GetBit();
+        }
+        return bits;
+    }();
+    return (element.GetAttributeBits() & kStateBits) != 0;
 }
 
-void ZAMPrintSVGParser::ParseGraphicsAttrib(const ZAMLightXmlElementItf& element) {
-    ReadAttributes(element, ReadingOperation::Graphics);
-}
-
-void ZAMPrintSVGParser::ParsePaintAttrib(const ZAMLightXmlElementItf& element) {
-    ReadAttributes(element, ReadingOperation::Paint);
-}
-
-void ZAMPrintSVGParser::ParseTextAttrib(const ZAMLightXmlElementItf& element) {
-    ReadAttributes(element, ReadingOperation::Text);
-}
-
-void ZAMPrintSVGParser::ParseTextContentAttrib(const ZAMLightXmlElementItf& element) {
-    ReadAttributes(element, ReadingOperation::TextContent);
-}
-
-void ZAMPrintSVGParser::ParseFontAttrib(const ZAMLightXmlElementItf& element) {
-    ReadAttributes(element, ReadingOperation::Font);
-}
-
-void ZAMPrintSVGParser::ParseMarkerAttrib(const ZAMLightXmlElementItf& element) {
-    ReadAttributes(element, ReadingOperation::Marker);
-}
-
-void ZAMPrintSVGParser::ReadAttributes(const ZAMLightXmlElementItf& element, ReadingOperation operation) {
+template <ZAMPrintSVGParser::ReadingOperation operation>
+void ZAMPrintSVGParser::ReadAttributes(const ZAMLightXmlElementItf& element) {
+    static constexpr std::uint64_t kBits = AttributeBits(operation);
+    if ((element.GetAttributeBits() & kBits) == 0) {
+        return;
+    }
     PendingPaint pending;
     for (const PropertyRow& row : kProperties) {
         if (row.operation == operation && row.asAttribute != nullptr) {
@@ -156,6 +151,38 @@ void ZAMPrintSVGParser::ReadAttributes(const ZAMLightXmlElementItf& element, Rea
         }
     }
     Apply(pending);
+}
+
+void ZAMPrintSVGParser::ParseOpacityAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes<ReadingOperation::Opacity>(element);
+}
+
+void ZAMPrintSVGParser::ParseColorAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes<ReadingOperation::Color>(element);
+}
+
+void ZAMPrintSVGParser::ParseGraphicsAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes<ReadingOperation::Graphics>(element);
+}
+
+void ZAMPrintSVGParser::ParsePaintAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes<ReadingOperation::Paint>(element);
+}
+
+void ZAMPrintSVGParser::ParseTextAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes<ReadingOperation::Text>(element);
+}
+
+void ZAMPrintSVGParser::ParseTextContentAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes<ReadingOperation::TextContent>(element);
+}
+
+void ZAMPrintSVGParser::ParseFontAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes<ReadingOperation::Font>(element);
+}
+
+void ZAMPrintSVGParser::ParseMarkerAttrib(const ZAMLightXmlElementItf& element) {
+    ReadAttributes<ReadingOperation::Marker>(element);
 }
 
 void ZAMPrintSVGParser::ParseStyleAttrib(const ZAMLightXmlElementItf& element) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The basic shapes (SVG 1.1, 9) and the path element (8). Values that are missing or unreadable are 0, y coordinates
 // the flipped 0; sizes are handed on unchecked.
-#include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPathParser.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPointsParser.h"
 #include "ZAMPrtInterpreterSVG/parser/ZAMPrintSVGParser.h"
 
@@ -33,7 +32,8 @@ int ZAMPrintSVGParser::ParseShape(const ZAMLightXmlElementItf& element, Shape* s
     if (shape == nullptr) {
         return -1;
     }
-    const ZAMPrintSVGStateScope saved(*this, ZAMPrintSVGSaved::Paint);
+    const ZAMPrintSVGStateScope saved(*this,
+                                      MayChangeState(element) ? ZAMPrintSVGSaved::Paint : ZAMPrintSVGSaved::Nothing);
     ParseShapeAttrib(element, kBearsMarkers<Shape> ? Markers::Read : Markers::None);
     shape->SetStrokeAttributes(_StrokeAttributes);
     if constexpr (std::is_base_of_v<ZAMPrtPaintedElt, Shape>) {
@@ -133,16 +133,16 @@ int ZAMPrintSVGParser::ParsePathElement(const ZAMLightXmlElementItf& element, ZA
     if (group == nullptr) {
         return -1;
     }
-    const ZAMPrintSVGStateScope saved(*this, ZAMPrintSVGSaved::Paint);
+    const ZAMPrintSVGStateScope saved(*this,
+                                      MayChangeState(element) ? ZAMPrintSVGSaved::Paint : ZAMPrintSVGSaved::Nothing);
     ParseShapeAttrib(element, Markers::Read);
     ParseCoreAttrib(element, group);
     ParseTransformAttrib(element, group);
     group->SetContinuousOutline(true);
-    ZAMPrintSVGPathParser parser;
-    parser.SetImageSize(_ImageWidth, _ImageHeight);
-    parser.SetPaintAttributes(_DrawStyle, _StrokeAttributes, _FillAttributes);
-    parser.SetMarkerAttributes(FindMarkers());
-    parser.ParsePathString(group, element.GetAttribute("d"));
+    _PathParser.SetImageSize(_ImageWidth, _ImageHeight);
+    _PathParser.SetPaintAttributes(_DrawStyle, _StrokeAttributes, _FillAttributes);
+    _PathParser.SetMarkerAttributes(FindMarkers());
+    _PathParser.ParsePathString(group, element.GetAttribute("d"));
     ParseDescriptions(element, group);
     return 0;
 }

@@ -216,7 +216,7 @@ int ZAMPrintSVGParser::ParseGroupElement(const ZAMLightXmlElementItf& element, Z
     if (group == nullptr) {
         return -1;
     }
-    const ZAMPrintSVGStateScope saved(*this);
+    const ZAMPrintSVGStateScope saved(*this, MayChangeState(element) ? ZAMPrintSVGSaved::All : ZAMPrintSVGSaved::Text);
     ParsePresentationAttrib(element, group);
     ParseStyleAttrib(element);
     ParseCoreAttrib(element, group);

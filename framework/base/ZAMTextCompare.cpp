@@ -19,6 +19,10 @@ utf8proc_int32_t FoldCodePoint(utf8proc_int32_t codePoint) {
     return utf8proc_tolower(utf8proc_toupper(codePoint));
 }
 
+constexpr bool IsAscii(char c) {
+    return static_cast<unsigned char>(c) < 0x80;
+}
+
 // Eats one code point; a byte that starts no valid sequence stands for itself, outside the Unicode range.
 utf8proc_int32_t NextFolded(std::string_view& text) {
     utf8proc_int32_t codePoint = 0;
@@ -75,6 +79,11 @@ std::string ZAMFoldText(std::string_view text) {
     folded.reserve(text.size());
     while (!text.empty()) {
         const char first = text.front();
+        if (IsAscii(first)) {
+            folded += static_cast<char>(FoldAscii(static_cast<unsigned char>(first)));
+            text.remove_prefix(1);
+            continue;
+        }
         const utf8proc_int32_t codePoint = NextFolded(text);
         utf8proc_uint8_t bytes[4];
         const auto length = codePoint < 0 ? 0 : utf8proc_encode_char(codePoint, bytes);

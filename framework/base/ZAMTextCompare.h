@@ -15,5 +15,13 @@ ZAM_EXPORT std::string ZAMFoldText(std::string_view text);
 
 /// True when the texts are equal, letter case aside: how names and keywords are matched.
 inline bool ZAMTextMatches(std::string_view left, std::string_view right) noexcept {
+    // Most texts that are compared differ in their first letters, whatever their case.
+    constexpr unsigned char kNotAscii = 0x80;
+    constexpr unsigned char kCase = 'a' ^ 'A';
+    const unsigned char first = left.empty() ? '\0' : static_cast<unsigned char>(left.front());
+    const unsigned char other = right.empty() ? '\0' : static_cast<unsigned char>(right.front());
+    if ((first | other) < kNotAscii && ((first ^ other) & ~kCase) != 0) {
+        return false;
+    }
     return ZAMCompareText(left, right) > 0;
 }

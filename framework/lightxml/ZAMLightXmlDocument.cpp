@@ -37,26 +37,24 @@ std::string_view ZAMLightXmlDocument::Keep(std::string_view text) {
 }
 
 // A direct-mapped table of the names met last: nearly every name of a document is kept once.
-std::string_view ZAMLightXmlDocument::KeepName(std::string_view name) {
-    if (_Shared != nullptr) {
-        return name;
-    }
+ZAMLightXmlDocument::KeptName ZAMLightXmlDocument::KeepName(std::string_view name) {
     if (_RecentNames.empty()) {
         _RecentNames.resize(kRecentNames);
     }
     const std::size_t slot =
         (name.size() * 31 + static_cast<unsigned char>(name.back()) * 7 + static_cast<unsigned char>(name.front())) &
         (kRecentNames - 1);
-    if (_RecentNames[slot] != name) {
-        _RecentNames[slot] = Keep(name);
+    KeptName& recent = _RecentNames[slot];
+    if (recent.text != name) {
+        recent = {Keep(name), ZAMLightXmlName::BitOf(name)};
     }
-    return _RecentNames[slot];
+    return recent;
 }
 
 void ZAMLightXmlDocument::OpenElement(std::string_view name, std::uint32_t line, std::uint32_t column) {
     const auto number = static_cast<std::uint32_t>(_Nodes.size());
     Node node;
-    node.name = KeepName(name);
+    node.name = KeepName(name).text;
     node.firstAttribute = static_cast<std::uint32_t>(_Attributes.size());
     node.line = line;
     node.column = column;
@@ -72,9 +70,10 @@ void ZAMLightXmlDocument::OpenElement(std::string_view name, std::uint32_t line,
 
 void ZAMLightXmlDocument::AddAttribute(std::string_view name, std::string_view value) {
     Node& node = _Nodes[_Open.back().node];
-    node.attributeBits |= ZAMLightXmlName::BitOf(name);
+    const KeptName kept = KeepName(name);
+    node.attributeBits |= kept.bit;
     ++node.attributeCount;
-    _Attributes.push_back({KeepName(name), Keep(value)});
+    _Attributes.push_back({kept.text, Keep(value)});
 }
 
 // Character data comes in pieces; those that lie behind one another in memory are one run.

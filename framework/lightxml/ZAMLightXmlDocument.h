@@ -71,7 +71,11 @@ private:
 
     char* Reserve(std::size_t size);
     std::string_view Keep(std::string_view text);
-    std::string_view KeepName(std::string_view name);
+    struct KeptName {
+        std::string_view text;
+        std::uint64_t bit = 0; ///< of ZAMLightXmlName
+    };
+    KeptName KeepName(std::string_view name);
     bool ExtendsLastText(const OpenNode& open) const;
 
     std::vector<Node> _Nodes;
@@ -81,6 +85,6 @@ private:
     std::vector<std::unique_ptr<char[]>> _Chunks;
     char* _Free = nullptr;
     std::size_t _FreeSize = 0;
-    std::shared_ptr<const void> _Shared;        // what texts are views into; null when they are copied
-    std::vector<std::string_view> _RecentNames; // few names make up a document; see KeepName
+    std::shared_ptr<const void> _Shared; // what texts are views into; null when they are copied
+    std::vector<KeptName> _RecentNames;  // few names make up a document; see KeepName
 };

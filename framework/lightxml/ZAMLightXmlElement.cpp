@@ -29,6 +29,10 @@ std::string_view ZAMLightXmlElement::GetAttribute(const ZAMLightXmlName& name) c
     return {};
 }
 
+std::uint64_t ZAMLightXmlElement::GetAttributeBits() const {
+    return _Document ? _Document->GetNode(_Node).attributeBits : 0;
+}
+
 std::size_t ZAMLightXmlElement::GetAttributeCount() const {
     return _Document ? _Document->GetNode(_Node).attributeCount : 0;
 }

@@ -22,6 +22,7 @@ public:
 
     [[nodiscard]] std::string_view GetName() const override;
     [[nodiscard]] std::string_view GetAttribute(const ZAMLightXmlName& name) const override;
+    [[nodiscard]] std::uint64_t GetAttributeBits() const override;
     [[nodiscard]] std::size_t GetAttributeCount() const override;
     [[nodiscard]] Attribute GetAttributeAt(std::size_t index) const override;
     [[nodiscard]] ZAMLightXmlPosition GetFirstChildPosition() const override;

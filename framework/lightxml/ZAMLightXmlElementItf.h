@@ -29,6 +29,10 @@ public:
     /// reference); empty when the element has no such attribute. Letter case counts in names.
     [[nodiscard]] virtual std::string_view GetAttribute(const ZAMLightXmlName& name) const = 0;
 
+    /// The bits of the names of all its attributes (ZAMLightXmlName): an attribute whose bit is not among them is not
+    /// there.
+    [[nodiscard]] virtual std::uint64_t GetAttributeBits() const = 0;
+
     /// Attributes in document order; `index` is below the count.
     struct Attribute {
         std::string_view name;
