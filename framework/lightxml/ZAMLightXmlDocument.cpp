@@ -51,6 +51,11 @@ ZAMLightXmlDocument::KeptName ZAMLightXmlDocument::KeepName(std::string_view nam
     return recent;
 }
 
+void ZAMLightXmlDocument::Expect(std::size_t elements, std::size_t attributes) {
+    _Nodes.reserve(elements);
+    _Attributes.reserve(attributes);
+}
+
 void ZAMLightXmlDocument::OpenElement(std::string_view name, std::uint32_t line, std::uint32_t column) {
     const auto number = static_cast<std::uint32_t>(_Nodes.size());
     Node node;

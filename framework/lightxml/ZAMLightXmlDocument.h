@@ -43,6 +43,9 @@ public:
     /// A document whose texts are parts of `texts`, which it keeps alive: it does not copy them.
     explicit ZAMLightXmlDocument(std::shared_ptr<const void> texts) : _Shared(std::move(texts)) {}
 
+    /// Makes room, so that filling it moves nothing; a guess will do.
+    void Expect(std::size_t elements, std::size_t attributes);
+
     /// Opens an element inside the one that is open now (the first is the root).
     void OpenElement(std::string_view name, std::uint32_t line, std::uint32_t column);
     /// To the element opened last, before it gets children.

@@ -4,6 +4,7 @@
 #include "framework/lightxml/ZAMLightXmlDocument.h"
 #include "framework/lightxml/ZAMLightXmlEncoding.h"
 
+#include <algorithm>
 #include <expat.h>
 #include <limits>
 #include <memory>
@@ -32,6 +33,12 @@ public:
             Stop("the document is larger than 2 GiB");
             return false;
         }
+        // Room that nothing is put into is never touched and costs nothing, as long as it is not absurdly large.
+        constexpr std::size_t kBytesForElement = 64;
+        constexpr std::size_t kBytesForAttribute = 24;
+        constexpr std::size_t kForeseen = std::size_t{64} << 20U;
+        const std::size_t foreseen = std::min(bytes.size(), kForeseen);
+        _Document->Expect(foreseen / kBytesForElement, foreseen / kBytesForAttribute);
         // All in one call: expat starts over with an unfinished attribute at each further piece.
         return XML_Parse(_Parser, bytes.data(), static_cast<int>(bytes.size()), XML_TRUE) == XML_STATUS_OK;
     }

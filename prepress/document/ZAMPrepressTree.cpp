@@ -107,6 +107,10 @@ void ZAMPrepressTree::Append(ZAMPrepressElement& parent, ZAMPrepressElement& chi
 
 ZAMLightXmlElement ZAMPrepressTree::ToDocument(const ZAMPrepressElement& root) const {
     const auto document = std::make_shared<ZAMLightXmlDocument>(_Texts);
+    if (&root == _Root) {
+        constexpr std::size_t kAttributes = 6; // of an element, on the average of drawings
+        document->Expect(_Elements.size(), _Elements.size() * kAttributes);
+    }
     Write(root, *document);
     return {document, 0};
 }
