@@ -58,6 +58,9 @@ function(zam_add_shared_library NAME)
     endif()
 endfunction()
 
+# The folder of the modules, beside the framework. Each version has its own: two may be installed at once.
+set(ZAM_MODULE_FOLDER ZAMPrint-${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+
 # zam_add_module(<name> FOLDER <folder> OPENED_BY <layer> LINKS <library>...)
 # lib<name>.so, which a layer opens while a program runs: whatever holds the layer is built after it. It holds none of
 # the layers' objects.
@@ -66,12 +69,23 @@ function(zam_add_module NAME)
     zam_glob_sources(${ARG_FOLDER})
     add_library(${NAME} MODULE ${sources})
     target_link_libraries(${NAME} PRIVATE zam_flags ${ARG_LINKS})
+    set_target_properties(${NAME} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${ZAM_MODULE_FOLDER})
     add_dependencies(zam_${ARG_OPENED_BY} ${NAME})
+    target_compile_definitions(zam_${ARG_OPENED_BY} PRIVATE ZAM_MODULE_FOLDER="${ZAM_MODULE_FOLDER}")
     zam_limit_exports(${NAME})
     zam_install_module(${NAME})
 endfunction()
 
-# zam_add_program(<name> FOLDER <folder> LINKS <shared library>...)
+# zam_add_program_library(<name> FOLDER <folder> LINKS <shared library>... PRIVATE_LINKS <library>...)
+# The static library zam_<name> of what several programs share.
+function(zam_add_program_library NAME)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" FOLDER "LINKS;PRIVATE_LINKS")
+    zam_glob_sources(${ARG_FOLDER})
+    add_library(zam_${NAME} STATIC ${sources})
+    target_link_libraries(zam_${NAME} PUBLIC ${ARG_LINKS} PRIVATE zam_flags ${ARG_PRIVATE_LINKS})
+endfunction()
+
+# zam_add_program(<name> FOLDER <folder> LINKS <library>...)
 function(zam_add_program NAME)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" FOLDER LINKS)
     zam_glob_sources(${ARG_FOLDER})

@@ -6,20 +6,23 @@
 
 namespace {
 
-void* OpenBeside(const char* fileName) {
+void* OpenInModuleFolder(const char* fileName) {
     Dl_info place{};
     if (dladdr(reinterpret_cast<const void*>(&ZAMOpenModule), &place) == 0 || place.dli_fname == nullptr) {
         return nullptr;
     }
     const std::string self = place.dli_fname;
     const std::size_t slash = self.rfind('/');
-    return slash == std::string::npos ? nullptr : dlopen((self.substr(0, slash + 1) + fileName).c_str(), RTLD_NOW);
+    if (slash == std::string::npos) {
+        return nullptr;
+    }
+    return dlopen((self.substr(0, slash + 1) + ZAM_MODULE_FOLDER + "/" + fileName).c_str(), RTLD_NOW);
 }
 
 } // namespace
 
 void* ZAMOpenModule(const char* fileName, const char* symbol) {
-    void* module = OpenBeside(fileName);
+    void* module = OpenInModuleFolder(fileName);
     module = module == nullptr ? dlopen(fileName, RTLD_NOW) : module;
     return module == nullptr ? nullptr : dlsym(module, symbol);
 }

@@ -2,10 +2,10 @@
 #include "tools/zamprint/Check.h"
 
 #include "framework/base/ZAMJsonWriter.h"
-#include "tools/zamprint/Document.h"
-#include "tools/zamprint/Failure.h"
-#include "tools/zamprint/InputFile.h"
-#include "tools/zamprint/Message.h"
+#include "tools/common/Document.h"
+#include "tools/common/Failure.h"
+#include "tools/common/InputFile.h"
+#include "tools/common/Message.h"
 #include "tools/zamprint/OutputFile.h"
 #include "ZAMPrtInterpreterSVG/preflight/ZAMPrintSVGPreflight.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/zamprint/CommandLine.h"
 
-#include "tools/zamprint/Failure.h"
+#include "tools/common/Failure.h"
 #include "tools/zamprint/OptionTable.h"
 
 #include <algorithm>

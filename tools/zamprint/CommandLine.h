@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/zamprint/Options.h"
+#include "tools/common/Options.h"
 
 /// Reads the arguments of the program.
 class CommandLine {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/zamprint/OutputFile.h"
 
-#include "tools/zamprint/Failure.h"
-#include "tools/zamprint/Options.h"
+#include "tools/common/Failure.h"
+#include "tools/common/Options.h"
 
 #include <cerrno>
 #include <fcntl.h>

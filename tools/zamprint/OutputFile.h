@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/zamprint/FileDescriptor.h"
-#include "tools/zamprint/FileDescriptorBuffer.h"
+#include "tools/common/FileDescriptor.h"
+#include "tools/common/FileDescriptorBuffer.h"
 #include "tools/zamprint/TemporaryFile.h"
 
 #include <optional>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/zamprint/Print.h"
 
-#include "tools/zamprint/Failure.h"
-#include "tools/zamprint/InputFile.h"
+#include "tools/common/Failure.h"
+#include "tools/common/InputFile.h"
 #include "tools/zamprint/PrintApart.h"
 #include "tools/zamprint/PrintTogether.h"
 #include "tools/zamprint/Progress.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tools/zamprint/PrintApart.h"
 
-#include "tools/zamprint/Failure.h"
-#include "tools/zamprint/InputFile.h"
-#include "tools/zamprint/Message.h"
+#include "tools/common/Failure.h"
+#include "tools/common/InputFile.h"
+#include "tools/common/Message.h"
 #include "tools/zamprint/PrintTogether.h"
 #include "tools/zamprint/Workers.h"
 

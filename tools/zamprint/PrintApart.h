@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/zamprint/Options.h"
+#include "tools/common/Options.h"
 #include "tools/zamprint/Progress.h"
 
 /// Prints each document into an output of its own, in the folder of the options and named after it, several at once.

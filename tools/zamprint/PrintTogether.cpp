@@ -3,11 +3,11 @@
 
 #include "framework/model/ZAMPrtModelJson.h"
 #include "generators/cairo/ZAMPrintCairoGenerator.h"
-#include "tools/zamprint/Document.h"
-#include "tools/zamprint/Failure.h"
-#include "tools/zamprint/Message.h"
+#include "tools/common/Document.h"
+#include "tools/common/Failure.h"
+#include "tools/common/Message.h"
 #include "tools/zamprint/OutputFile.h"
-#include "tools/zamprint/PagePrinter.h"
+#include "tools/common/PagePrinter.h"
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVG2Interpreter.h"
 
 #include <new>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/zamprint/Progress.h"
 
-#include "tools/zamprint/Message.h"
+#include "tools/common/Message.h"
 
 #include <unistd.h>
 

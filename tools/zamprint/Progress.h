@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/zamprint/Options.h"
+#include "tools/common/Options.h"
 
 #include <cstddef>
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/zamprint/FileDescriptor.h"
+#include "tools/common/FileDescriptor.h"
 
 #include <string>
 

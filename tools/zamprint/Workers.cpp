@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/zamprint/Workers.h"
 
-#include "tools/zamprint/FileDescriptor.h"
+#include "tools/common/FileDescriptor.h"
 
 #include <algorithm>
 #include <atomic>

@@ -5,8 +5,8 @@
 #include "framework/mathematics/ZAMMathVector2D.h"
 #include "framework/print/ZAMPrintColour.h"
 #include "framework/print/ZAMPrintParameters.h"
-#include "tools/zamprint/AllowedFiles.h"
-#include "tools/zamprint/OutputFormat.h"
+#include "tools/common/AllowedFiles.h"
+#include "tools/common/OutputFormat.h"
 
 #include <cstddef>
 #include <filesystem>

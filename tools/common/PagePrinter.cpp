@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/PagePrinter.h"
+#include "tools/common/PagePrinter.h"
 
-#include "tools/zamprint/Message.h"
-#include "tools/zamprint/PageSize.h"
+#include "tools/common/Message.h"
+#include "tools/common/PageSize.h"
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVGInterpreter.h"
 
 #include <algorithm>

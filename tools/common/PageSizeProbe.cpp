@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/PageSizeProbe.h"
+#include "tools/common/PageSizeProbe.h"
 
 int PageSizeProbe::BeginPage(double width, double height) {
     _PageSize = {width, height};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/Message.h"
+#include "tools/common/Message.h"
 
 #include <algorithm>
 #include <cstdio>

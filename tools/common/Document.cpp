@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/Document.h"
+#include "tools/common/Document.h"
 
 #include "framework/base/ZAMTextCompare.h"
 #include "framework/lightxml/ZAMLightXmlInputStreamBuffer.h"
 #include "framework/lightxml/ZAMLightXmlParser.h"
 #include "prepress/ZAMPrepress.h"
-#include "tools/zamprint/Failure.h"
-#include "tools/zamprint/InputFile.h"
-#include "tools/zamprint/Options.h"
-#include "tools/zamprint/TileRenderer.h"
+#include "tools/common/Failure.h"
+#include "tools/common/InputFile.h"
+#include "tools/common/Options.h"
+#include "tools/common/TileRenderer.h"
 
 #include <sstream>
 

@@ -3,7 +3,7 @@
 
 #include "framework/lightxml/ZAMLightXmlElement.h"
 #include "framework/mathematics/ZAMMathVector2D.h"
-#include "tools/zamprint/Options.h"
+#include "tools/common/Options.h"
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVGInterpreter.h"
 
 /// The size in points of the page that a drawing gets: its own size, a paper, or what else the options make of it.

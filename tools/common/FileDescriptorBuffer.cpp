@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/FileDescriptorBuffer.h"
+#include "tools/common/FileDescriptorBuffer.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/InputFile.h"
+#include "tools/common/InputFile.h"
 
-#include "tools/zamprint/Failure.h"
-#include "tools/zamprint/FileDescriptor.h"
-#include "tools/zamprint/Inflate.h"
-#include "tools/zamprint/Options.h"
+#include "tools/common/Failure.h"
+#include "tools/common/FileDescriptor.h"
+#include "tools/common/Inflate.h"
+#include "tools/common/Options.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -11,6 +11,8 @@ public:
     /// The generator is borrowed.
     explicit DocumentGenerator(ZAMPrintGenerator& generator) : _Generator(generator) {}
 
+    /// Whether any mark was made, on whichever page.
+    [[nodiscard]] bool HasMarks() const { return _HasMarks; }
     /// Ends the document of the generator behind.
     int Finish() { return _Generator.EndDocument(); }
 
@@ -32,13 +34,16 @@ public:
     }
     void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen) override {
+        _HasMarks = true;
         _Generator.DrawPath(path, toPage, fill, pen);
     }
     void DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen) override {
+        _HasMarks = true;
         _Generator.DrawText(layout, toPage, fill, pen);
     }
     void DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) override {
+        _HasMarks = true;
         _Generator.DrawImage(image, toPage);
     }
     [[nodiscard]] std::string GetError() const override { return _Generator.GetError(); }
@@ -49,4 +54,5 @@ private:
 
     ZAMPrintGenerator& _Generator;
     unsigned int _Drawings = 0; ///< begun so far
+    bool _HasMarks = false;
 };

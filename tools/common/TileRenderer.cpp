@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/TileRenderer.h"
+#include "tools/common/TileRenderer.h"
 
 #include "generators/cairo/ZAMPrintCairoGenerator.h"
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVGInterpreter.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/DocumentGenerator.h"
+#include "tools/common/DocumentGenerator.h"
 
 int DocumentGenerator::BeginDocument(const ZAMPrintParameters& parameters) {
     ++_Drawings;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/Inflate.h"
+#include "tools/common/Inflate.h"
 
-#include "tools/zamprint/Failure.h"
+#include "tools/common/Failure.h"
 
 #include <algorithm>
 #include <limits>

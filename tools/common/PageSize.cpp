@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/PageSize.h"
+#include "tools/common/PageSize.h"
 
 #include "framework/print/ZAMPrintPlacement.h"
-#include "tools/zamprint/PageSizeProbe.h"
+#include "tools/common/PageSizeProbe.h"
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVGGetDocumentSize.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/OutputFormat.h"
+#include "tools/common/OutputFormat.h"
 
 #include "framework/base/ZAMTextCompare.h"
 

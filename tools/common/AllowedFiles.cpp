@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/AllowedFiles.h"
+#include "tools/common/AllowedFiles.h"
 
 #include "framework/base/ZAMFilePath.h"
 #include "framework/base/ZAMTextCompare.h"

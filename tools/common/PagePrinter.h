@@ -3,9 +3,9 @@
 
 #include "framework/print/ZAMPrintGenerator.h"
 #include "framework/print/ZAMPrintParameters.h"
-#include "tools/zamprint/Document.h"
-#include "tools/zamprint/DocumentGenerator.h"
-#include "tools/zamprint/Options.h"
+#include "tools/common/Document.h"
+#include "tools/common/DocumentGenerator.h"
+#include "tools/common/Options.h"
 
 #include <functional>
 
@@ -19,6 +19,8 @@ public:
     /// `check` is called when a drawing was read and nothing of it is drawn yet, and throws if that is to stay so.
     /// False when the generator has failed.
     bool Print(const Document& document, const std::function<void()>& check);
+    /// Whether there is anything on the pages.
+    [[nodiscard]] bool HasMarks() const { return _Generator.HasMarks(); }
     /// Completes the output, once. False when the generator has failed.
     bool Finish() { return _Generator.Finish() == 1; }
 
