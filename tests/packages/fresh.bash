@@ -53,7 +53,7 @@ packages=()
 for file in /packages/*.deb; do
     packages+=("$(dpkg-deb -f "$file" Package)")
 done
-dpkg -L "${packages[@]}" | sort -u >files
+dpkg -L "${packages[@]}" | grep -v "^$" | sort -u >files
 triplet="$(g++ -print-multiarch)"
 places="bin/zamprint|include/ZAMPrint/.+|lib/$triplet/(libZAM[^/]+|ZAMPrint-[0-9.]+/[^/]+|cmake/ZAMPrint/.+"
 places+="|pkgconfig/ZAM[^/]+)|lib/cups/filter/zamsvgtopdf|share/cups/mime/zamprint\\.(types|convs)"

@@ -37,7 +37,7 @@ std::string MakeBomb() {
     std::string bomb = R"(<svg xmlns:xlink="http://www.w3.org/1999/xlink"><defs><g id="g0"><circle r="1"/></g>)";
     for (int i = 1; i <= 30; ++i) {
         const std::string use = "<use xlink:href='#g" + std::to_string(i - 1) + "'/>";
-        bomb += "<g id='g" + std::to_string(i) + "'>" + use + use + "</g>";
+        bomb.append("<g id='g" + std::to_string(i) + "'>").append(use).append(use).append("</g>");
     }
     return bomb + "</defs><use xlink:href='#g30'/></svg>";
 }
@@ -102,6 +102,15 @@ TEST_F(CupsFilterTest, WhatCannotBePrintedIsOneErrorAndNoOutput) {
     EXPECT_TRUE(Shell("\"$F\" 7 someone title 1").err.starts_with("ERROR: usage"));
     EXPECT_EQ(Print(">/dev/full", kDrawing).err, "ERROR: standard output: No space left on device\n");
     EXPECT_EQ(Print(">/dev/full", kDrawing).status, 1);
+}
+
+// Else the scheduler may lose the reason: it looks for it until the filter has ended.
+TEST_F(CupsFilterTest, StaysUntilItsErrorWasRead) {
+    const RunResult result = Shell("exec bash -c '"
+                                   "{ \"$F\" 7 someone title 1 \"\" missing; touch ended; } 2> >(sleep 0.4; "
+                                   "[[ -e ended ]] && echo early; cat) | cat; wait'");
+    EXPECT_EQ(result.err, "");
+    EXPECT_EQ(result.out, "ERROR: title: No such file or directory\n");
 }
 
 TEST_F(CupsFilterTest, ReadsNoPictureFiles) {

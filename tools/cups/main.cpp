@@ -5,10 +5,13 @@
 #include "tools/common/Message.h"
 #include "tools/cups/PrintJob.h"
 
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <exception>
 #include <new>
+#include <sys/ioctl.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -16,6 +19,15 @@ namespace {
 // One line of the scheduler's log; an ERROR is also what the queue shows.
 void Tell(const std::string& level, const std::string& text) {
     std::fputs((level + ": " + WithoutControls(text) + "\n").c_str(), stderr);
+}
+
+// The scheduler tells of a failed filter, and not of the reason, when it hears of the filter's end before it has read
+// the reason. So this waits until the pipe behind standard error is empty, for a second at most.
+void AwaitReader() {
+    int unread = 0;
+    for (int i = 0; i < 100 && ioctl(STDERR_FILENO, FIONREAD, &unread) == 0 && unread > 0; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
 }
 
 // Who prints knows the document by the job's title, not by its file in the spool.
@@ -63,6 +75,7 @@ int main(int argc, char** argv) {
     }
     if (!failure.empty()) {
         Tell("ERROR", failure);
+        AwaitReader();
     }
     return failure.empty() ? 0 : 1;
 }

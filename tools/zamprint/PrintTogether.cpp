@@ -6,8 +6,8 @@
 #include "tools/common/Document.h"
 #include "tools/common/Failure.h"
 #include "tools/common/Message.h"
-#include "tools/zamprint/OutputFile.h"
 #include "tools/common/PagePrinter.h"
+#include "tools/zamprint/OutputFile.h"
 #include "ZAMPrtInterpreterSVG/interpreter/ZAMPrintSVG2Interpreter.h"
 
 #include <new>

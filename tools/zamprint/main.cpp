@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/zamprint/Check.h"
-#include "tools/zamprint/CommandLine.h"
 #include "tools/common/Failure.h"
 #include "tools/common/Message.h"
+#include "tools/zamprint/Check.h"
+#include "tools/zamprint/CommandLine.h"
 #include "tools/zamprint/OutputFile.h"
 #include "tools/zamprint/Print.h"
 
