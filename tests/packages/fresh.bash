@@ -53,7 +53,7 @@ packages=()
 for file in /packages/*.deb; do
     packages+=("$(dpkg-deb -f "$file" Package)")
 done
-dpkg -L "${packages[@]}" | grep -v "^$" | sort -u >files
+dpkg -L "${packages[@]}" | grep -v -e '^$' -e '^/\.$' | sort -u >files
 triplet="$(g++ -print-multiarch)"
 places="bin/zamprint|include/ZAMPrint/.+|lib/$triplet/(libZAM[^/]+|ZAMPrint-[0-9.]+/[^/]+|cmake/ZAMPrint/.+"
 places+="|pkgconfig/ZAM[^/]+)|lib/cups/filter/zamsvgtopdf|share/cups/mime/zamprint\\.(types|convs)"
@@ -66,8 +66,9 @@ done <files
 dpkg --verify "${packages[@]}" >log || true
 [[ ! -s log ]] || fail "files are not as they were packed: $(cat log)"
 
+# A script that is run after a removal stays until a purge.
 quietly apt-get -qq remove -y "${packages[@]}"
-quietly apt-get -qq purge -y "${packages[@]}"
+quietly dpkg --purge zamprint-cups
 [[ -z "$(find_ours)" ]] || fail "files are left after the packages are gone: $(find_ours)"
 while read -r file; do
     # Folders stay as long as they are others', too.
