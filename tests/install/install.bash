@@ -64,6 +64,10 @@ prints() {
 
 prints moved/bin/zamprint tool.pdf -o
 
+[[ -s moved/share/cups/mime/zamprint.types && -s moved/share/cups/mime/zamprint.convs ]] || fail 'CUPS is not told of SVG'
+moved/lib/cups/filter/zamsvgtopdf 1 someone title 1 '' drawing.svg >filter.pdf 2>log || fail "the filter: $(cat log)"
+check_pdf filter.pdf
+
 quietly cmake -S "$source/tests/install/project" -B cmake -G Ninja \
     -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_PREFIX_PATH="$work/moved"
 quietly cmake --build cmake
