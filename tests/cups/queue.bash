@@ -94,7 +94,8 @@ submit() {
     lp -d "$@" | sed -n 's/^request id is \([^ ]*\) .*/\1/p'
 }
 has_left() {
-    ! lpstat -W not-completed -o | grep -q "^$1 "
+    local jobs
+    jobs="$(lpstat -W not-completed -o)" && ! grep -q "^$1 " <<<"$jobs"
 }
 # stands JOB TEXT: whether the report on all jobs says so of this one.
 stands() {
