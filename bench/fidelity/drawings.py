@@ -26,6 +26,7 @@ COLLECTIONS = {
     'bootstrap-icons': Collection('bootstrap-icons', '1.13.2', ('package/icons',)),
     'flag-icons': Collection('flag-icons', '7.5.0', ('package/flags',)),
     'simple-icons': Collection('simple-icons', '16.37.0', ('package/icons',)),
+    'world': Collection('@svg-maps/world', '2.0.0', ('package',)),
 }
 
 
@@ -62,7 +63,8 @@ def _drawings_below(folder):
 
 
 def _fetched(collection, cache):
-    package = f'{collection.package}-{collection.version}'
+    # What npm calls the file of a package, scoped ones too.
+    package = f'{collection.package.lstrip("@").replace("/", "-")}-{collection.version}'
     folder = cache / package
     if not folder.is_dir():
         cache.mkdir(parents=True, exist_ok=True)
