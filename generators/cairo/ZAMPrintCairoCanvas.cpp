@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -52,36 +53,27 @@ ZAMPrintPath MakeRectangle(const ZAMMathBox2D& box) {
     return path;
 }
 
-/// The length of the path's control polygon in the pen's units.
-double MeasurePath(const ZAMPrintPath& path, const ZAMPrintCairoPen& pen) {
-    double length = 0.0;
-    ZAMMathPoint2D previous;
-    ZAMMathPoint2D start;
-    const auto measureTo = [&](const ZAMMathPoint2D& next) {
-        length += pen.Measure({next.x - previous.x, next.y - previous.y});
-        previous = next;
-    };
-    const ZAMMathPoint2D* point = path.GetPoints().data();
-    for (const ZAMPrintPath::Verb verb : path.GetVerbs()) {
-        if (verb == ZAMPrintPath::Verb::MoveTo) {
-            start = previous = *point++;
-        } else if (verb == ZAMPrintPath::Verb::ClosePath) {
-            measureTo(start);
-        } else {
-            for (std::size_t count = ZAMPrintPath::PointsOf(verb); count > 0; --count) {
-                measureTo(*point++);
-            }
-        }
-    }
-    return length;
-}
-
 } // namespace
 
 ZAMPrintCairoCanvas::ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, ZAMPrintCairoPictures& pictures,
                                          double width, double height, double scale)
     : _Context(cairo_create(surface)), _Kind(kind), _Pictures(pictures), _Page{0.0, 0.0, width * scale, height * scale},
       _Scale(scale) {}
+
+ZAMPrintCairoCanvas::ZAMPrintCairoCanvas(std::function<cairo_surface_t*()> makeSurface, ZAMPrintCairoPictures& pictures,
+                                         double width, double height)
+    : _MakeSurface(std::move(makeSurface)), _Kind(Kind::Vector), _Pictures(pictures), _Page{0.0, 0.0, width, height},
+      _Scale(1.0) {}
+
+void ZAMPrintCairoCanvas::Open() {
+    if (IsOpen()) {
+        return;
+    }
+    _Context.reset(cairo_create(_MakeSurface()));
+    _Clips = 0;
+    MarkWholePage();
+    std::exchange(_Record, {}).Replay(*this);
+}
 
 /// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more
 /// rectangles it consists of: a page of 100,000 marks spends most of its time there. A first mark as large as the page
@@ -97,14 +89,20 @@ void ZAMPrintCairoCanvas::MarkWholePage() {
 }
 
 void ZAMPrintCairoCanvas::Paint(const ZAMPrintColour& colour) {
+    if (!IsOpen()) {
+        return _Record.Paint(colour);
+    }
     ZAMPrintCairoColour::SetSource(_Context.get(), colour);
     cairo_paint(_Context.get());
 }
 
 void ZAMPrintCairoCanvas::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) {
+    ++_Clips;
+    if (!IsOpen()) {
+        return _Record.PushClip(area, toPage);
+    }
     cairo_save(_Context.get());
     cairo_set_antialias(_Context.get(), CAIRO_ANTIALIAS_DEFAULT);
-    ++_Clips;
     const ZAMMathAffine2D toDevice = ToDevice(toPage);
     if (!area.IsEmpty() && !ZAMPrintCairoMap::IsSingular(toDevice)) {
         ClipTo(area, toDevice);
@@ -116,7 +114,7 @@ void ZAMPrintCairoCanvas::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine
 void ZAMPrintCairoCanvas::PopClip() {
     if (_Clips > 0) {
         --_Clips;
-        cairo_restore(_Context.get());
+        IsOpen() ? cairo_restore(_Context.get()) : _Record.PopClip();
     }
 }
 
@@ -128,6 +126,10 @@ void ZAMPrintCairoCanvas::PopAllClips() {
 
 void ZAMPrintCairoCanvas::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                                    const ZAMPrintPen* pen) {
+    if (!IsOpen() && (fill == nullptr || fill->pattern == nullptr)) {
+        return _Record.DrawPath(path, toPage, fill, pen);
+    }
+    Open();
     const ZAMMathAffine2D toDevice = ToDevice(toPage);
     const bool fills = fill != nullptr && fill->colour.alpha > 0;
     std::optional<ZAMPrintCairoPen> stroke;
@@ -157,6 +159,7 @@ void ZAMPrintCairoCanvas::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine
 }
 
 void ZAMPrintCairoCanvas::DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) {
+    Open();
     ZAMPrintCairoPicturePainter(_Context.get(), _Kind, _Page, _Pictures).Draw(image, ToDevice(toPage));
 }
 
@@ -238,9 +241,7 @@ void ZAMPrintCairoCanvas::FillWithTiles(const ZAMPrintFill& fill, const std::vec
 }
 
 void ZAMPrintCairoCanvas::Stroke(ZAMPrintCairoPen& pen) {
-    const double steps = pen.IsDashed() ? pen.CountDashSteps(MeasurePath(_Path.GetPath(), pen)) : 0.0;
-    // Infinitely many are too many as well.
-    if (_Path.IsNear() && steps <= ZAMPrintCairoLimits::kManyDashSteps && !_IsMuchWork) {
+    if (_Path.IsNear() && !pen.HasManyDashes(_Path.GetPath()) && !_IsMuchWork) {
         pen.Stroke(_Context.get(), 0.0);
     } else {
         StrokePieces(pen);
@@ -255,7 +256,7 @@ void ZAMPrintCairoCanvas::StrokePieces(ZAMPrintCairoPen& pen) {
     const auto pieces = ZAMPrintCairoStrokeCutter::Cut(_Path.GetPath(), GetView(pen.GetReach()), measure);
     double length = 0.0;
     for (const auto& piece : pieces) {
-        length += pen.IsDashed() ? MeasurePath(piece.path, pen) : 0.0;
+        length += pen.IsDashed() ? pen.Measure(piece.path) : 0.0;
     }
     if (!(pen.CountDashSteps(length) <= ZAMPrintCairoLimits::kMostDashSteps)) {
         pen.MakeSolid();

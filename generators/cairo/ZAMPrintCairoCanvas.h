@@ -9,8 +9,11 @@
 #include "generators/cairo/ZAMPrintCairoDevicePath.h"
 #include "generators/cairo/ZAMPrintCairoHandles.h"
 #include "generators/cairo/ZAMPrintCairoPen.h"
+#include "generators/cairo/ZAMPrintCairoRecord.h"
 
 #include <cairo.h>
+#include <functional>
+#include <utility>
 #include <vector>
 
 class ZAMPrintCairoPictures;
@@ -28,7 +31,20 @@ public:
     ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, ZAMPrintCairoPictures& pictures, double width,
                         double height, double scale);
 
-    /// For what is particular to one kind of surface. Between marks it has no path and the identity as its matrix.
+    /// A page that keeps its marks, on a surface that is not there yet: it is made when the first mark comes that is no
+    /// plain path. The pictures are borrowed.
+    ZAMPrintCairoCanvas(std::function<cairo_surface_t*()> makeSurface, ZAMPrintCairoPictures& pictures, double width,
+                        double height);
+
+    /// Makes the surface, if there is none yet, and draws on it what was recorded.
+    void Open();
+    [[nodiscard]] bool IsOpen() const { return _Context != nullptr; }
+    /// The marks of a page that was never opened.
+    [[nodiscard]] const ZAMPrintCairoRecord& GetRecord() const { return _Record; }
+    [[nodiscard]] ZAMPrintCairoRecord TakeRecord() { return std::move(_Record); }
+
+    /// For what is particular to one kind of surface. Between marks it has no path and the identity as its matrix. Null
+    /// unless the canvas is open.
     [[nodiscard]] cairo_t* GetContext() const { return _Context.get(); }
 
     [[nodiscard]] Kind GetKind() const { return _Kind; }
@@ -61,6 +77,8 @@ private:
     void StrokePieces(ZAMPrintCairoPen& pen);
     void AddSolid(const ZAMPrintPath& contour, const ZAMPrintCairoPen& pen);
 
+    std::function<cairo_surface_t*()> _MakeSurface;
+    ZAMPrintCairoRecord _Record; ///< until it is open
     ZAMPrintCairoContext _Context;
     Kind _Kind;
     ZAMPrintCairoPictures& _Pictures;

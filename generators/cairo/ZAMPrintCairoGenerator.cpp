@@ -104,6 +104,7 @@ public:
     }
     void DrawText(ZAMPrintCairoCanvas& canvas, const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage,
                   const ZAMPrintFill* fill, const ZAMPrintPen* pen) {
+        canvas.Open();
         ZAMPrintCairoText(canvas, _Fonts, _Bitmaps, layout, toPage).Draw(fill, pen);
     }
     void AddLink(const ZAMMathBox2D& area, std::string_view address) {

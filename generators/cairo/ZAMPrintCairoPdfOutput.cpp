@@ -5,10 +5,12 @@
 #include "generators/cairo/ZAMPrintCairoLimits.h"
 #include "generators/cairo/ZAMPrintCairoLink.h"
 #include "generators/cairo/ZAMPrintCairoMetadata.h"
+#include "generators/cairo/ZAMPrintCairoPlainPage.h"
 
 #include <algorithm>
 #include <cairo-pdf.h>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -39,8 +41,77 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPdfOutput::BeginPage(double width, double heig
         throw ZAMPrintCairoFailure("a page of " + FormatLength(width) + " x " + FormatLength(height) +
                                    " points is too large: PDF allows 14,400 points a side");
     }
+    _BegunWidth = width;
+    _BegunHeight = height;
+    if (GetSurface() == nullptr) {
+        return BeginCanvas(width, height, [this] { return MakeSurface(); });
+    }
     SetPageSize(FitSide(width), FitSide(height));
     return BeginCanvas(width, height);
+}
+
+void ZAMPrintCairoPdfOutput::EndPage() {
+    auto& canvas = GetCanvas();
+    if (canvas && !canvas->IsOpen()) {
+        if (_Tags.empty() && KeepPlainPage()) {
+            canvas.reset();
+            return;
+        }
+        canvas->Open();
+    }
+    ZAMPrintCairoVectorOutput::EndPage();
+}
+
+void ZAMPrintCairoPdfOutput::EndDocument() {
+    if (GetSurface() != nullptr) {
+        return ZAMPrintCairoVectorOutput::EndDocument();
+    }
+    ZAMPrintCairoPlainPdf(GetStream()).Write(_Written, _Metadata);
+    Check(CAIRO_STATUS_SUCCESS);
+}
+
+/// False when only cairo can draw the page.
+bool ZAMPrintCairoPdfOutput::KeepPlainPage() {
+    const bool isFirst = _Written.empty();
+    const double width = FitSide(_BegunWidth);
+    const double height = FitSide(_BegunHeight);
+    const bool isRounded = !isFirst && (width != _Width || height != _Height);
+    const bool isSame = !isFirst && !isRounded;
+    ZAMPrintCairoPlainPdf::Page written;
+    written.width = isRounded ? RoundUp(width) : (isSame ? _Written.back().width : width);
+    written.height = isRounded ? RoundUp(height) : (isSame ? _Written.back().height : height);
+    ZAMPrintCairoPlainPage page(_BegunWidth, _BegunHeight, written.height);
+    GetCanvas()->GetRecord().Replay(page);
+    if (!page.IsPlain()) {
+        return false;
+    }
+    written.content = page.Finish();
+    written.opacities = page.GetOpacities();
+    _Written.push_back(std::move(written));
+    _PlainPages.push_back({_BegunWidth, _BegunHeight, GetCanvas()->TakeRecord()});
+    _Width = width;
+    _Height = height;
+    return true;
+}
+
+/// The surface as it is for the page that has begun.
+cairo_surface_t* ZAMPrintCairoPdfOutput::MakeSurface() {
+    DrawPlainPages();
+    SetPageSize(FitSide(_BegunWidth), FitSide(_BegunHeight));
+    return GetSurface();
+}
+
+void ZAMPrintCairoPdfOutput::DrawPlainPages() {
+    _Written.clear();
+    for (const PlainPage& page : std::exchange(_PlainPages, {})) {
+        SetPageSize(FitSide(page.width), FitSide(page.height));
+        ZAMPrintCairoCanvas canvas(GetSurface(), ZAMPrintCairoCanvas::Kind::Vector, GetPictures(), page.width,
+                                   page.height, 1.0);
+        canvas.MarkWholePage();
+        page.record.Replay(canvas);
+        cairo_show_page(canvas.GetContext());
+        Check(cairo_status(canvas.GetContext()));
+    }
 }
 
 void ZAMPrintCairoPdfOutput::AddLink(const ZAMMathBox2D& area, std::string_view address) {

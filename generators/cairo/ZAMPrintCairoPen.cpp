@@ -57,6 +57,7 @@ ZAMPrintCairoPen::ZAMPrintCairoPen(const ZAMPrintPen& pen, const ZAMMath2x2Matri
     if (flatness < 1.0 - 1e-9) {
         _ToDevice = Divide(toDevice, stretch.longest);
         _FromDevice = Invert(_ToDevice);
+        _IsRound = false;
     }
     ReadDashes(pen.dashes, stretch.longest);
 }
@@ -72,6 +73,34 @@ double ZAMPrintCairoPen::CountDashSteps(double length) const {
 double ZAMPrintCairoPen::Measure(const ZAMMathVector2D& offset) const {
     return std::hypot(_FromDevice.a * offset.x + _FromDevice.b * offset.y,
                       _FromDevice.c * offset.x + _FromDevice.d * offset.y);
+}
+
+double ZAMPrintCairoPen::Measure(const ZAMPrintPath& path) const {
+    double length = 0.0;
+    ZAMMathPoint2D previous;
+    ZAMMathPoint2D start;
+    const auto measureTo = [&](const ZAMMathPoint2D& next) {
+        length += Measure(ZAMMathVector2D{next.x - previous.x, next.y - previous.y});
+        previous = next;
+    };
+    const ZAMMathPoint2D* point = path.GetPoints().data();
+    for (const ZAMPrintPath::Verb verb : path.GetVerbs()) {
+        if (verb == ZAMPrintPath::Verb::MoveTo) {
+            start = previous = *point++;
+        } else if (verb == ZAMPrintPath::Verb::ClosePath) {
+            measureTo(start);
+        } else {
+            for (std::size_t count = ZAMPrintPath::PointsOf(verb); count > 0; --count) {
+                measureTo(*point++);
+            }
+        }
+    }
+    return length;
+}
+
+bool ZAMPrintCairoPen::HasManyDashes(const ZAMPrintPath& path) const {
+    // Written so that infinitely many and NaN are too many as well.
+    return IsDashed() && !(CountDashSteps(Measure(path)) <= ZAMPrintCairoLimits::kManyDashSteps);
 }
 
 void ZAMPrintCairoPen::Stroke(cairo_t* context, double walked) const {

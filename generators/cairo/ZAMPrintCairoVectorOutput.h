@@ -4,8 +4,10 @@
 #include "generators/cairo/ZAMPrintCairoHandles.h"
 #include "generators/cairo/ZAMPrintCairoOutput.h"
 
+#include <functional>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 /// An output whose pages keep their marks: one surface for all of them, whose bytes go through a filter of the derived
 /// class on their way to the stream.
@@ -31,6 +33,11 @@ protected:
     void SetSurface(cairo_surface_t* surface) { _Surface.reset(surface); }
     /// The canvas of a page, which nothing is drawn on yet.
     ZAMPrintCairoCanvas* BeginCanvas(double width, double height);
+    /// Likewise, but on a surface that is made when it is needed.
+    ZAMPrintCairoCanvas* BeginCanvas(double width, double height, std::function<cairo_surface_t*()> makeSurface) {
+        return &_Canvas.emplace(std::move(makeSurface), GetPictures(), width, height);
+    }
+    [[nodiscard]] std::optional<ZAMPrintCairoCanvas>& GetCanvas() { return _Canvas; }
     /// Of the page that is drawn.
     [[nodiscard]] cairo_t* GetContext() const { return _Canvas->GetContext(); }
 

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/mathematics/ZAMMath2x2Matrix.h"
+#include "framework/print/ZAMPrintPath.h"
+#include "generators/cairo/ZAMPrintCairoPlainText.h"
+
+#include <cstdint>
+
+/// Writes paths with the operators of a PDF content stream (ISO 32000-1, 8.5.2), each in the shortest form that draws
+/// the same.
+class ZAMPrintCairoPlainPath {
+public:
+    /// Coordinates get so many decimals.
+    ZAMPrintCairoPlainPath(ZAMPrintCairoPlainText& text, int decimals);
+
+    /// `fills`: the path is only filled or clipped with, which needs no closing. The map shapes the path.
+    void Write(const ZAMPrintPath& path, const ZAMMath2x2Matrix& map, bool fills);
+
+private:
+    // A point in units of the last decimal.
+    struct Place {
+        std::int64_t x = 0;
+        std::int64_t y = 0;
+
+        bool operator==(const Place&) const = default;
+    };
+
+    [[nodiscard]] Place Round(const ZAMMathPoint2D& point) const;
+    void Add(const Place& place);
+    [[nodiscard]] bool WriteRectangle(const ZAMPrintPath& path);
+    void MoveTo(const Place& place);
+    void LineTo(const Place& place, bool closes);
+    void CubicTo(const Place& control1, const Place& control2, const Place& end);
+
+    ZAMPrintCairoPlainText& _Text;
+    int _Decimals;
+    double _Units; ///< to the point
+    ZAMMath2x2Matrix _Map;
+    Place _Start; ///< of the contour
+    Place _Current;
+    bool _IsMoved = false; ///< the contour has no segment yet
+};
