@@ -91,6 +91,8 @@ function(zam_add_program NAME)
     zam_glob_sources(${ARG_FOLDER})
     add_executable(${NAME} ${sources})
     target_link_libraries(${NAME} PRIVATE zam_flags ${ARG_LINKS})
+    # Half of all names that are looked up at the start are libstdc++'s own: before all others they are found at once.
+    target_link_options(${NAME} PRIVATE LINKER:--push-state,--no-as-needed -lstdc++ LINKER:--pop-state)
 endfunction()
 
 # zam_add_test(<name> FOLDER <folder> [LINKS <library>...] [RUNS <program>...])

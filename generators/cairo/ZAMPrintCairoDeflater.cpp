@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "generators/cairo/ZAMPrintCairoDeflater.h"
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <new>
 
 namespace {
@@ -16,8 +18,10 @@ void End(z_stream* stream) {
 
 } // namespace
 
-ZAMPrintCairoDeflater::ZAMPrintCairoDeflater() : _Stream(new z_stream{}, End) {
-    if (deflateInit(_Stream.get(), kLevel) != Z_OK) {
+ZAMPrintCairoDeflater::ZAMPrintCairoDeflater(std::size_t expected) : _Stream(new z_stream{}, End) {
+    const int windowBits = std::clamp(static_cast<int>(std::bit_width(expected)), 9, 15);
+    const int memory = std::min(windowBits - 6, 8);
+    if (deflateInit2(_Stream.get(), kLevel, Z_DEFLATED, windowBits, memory, Z_DEFAULT_STRATEGY) != Z_OK) {
         throw std::bad_alloc();
     }
 }

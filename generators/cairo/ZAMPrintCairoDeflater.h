@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -9,7 +10,9 @@
 /// Packs bytes as the filter FlateDecode of PDF unpacks them.
 class ZAMPrintCairoDeflater {
 public:
-    ZAMPrintCairoDeflater();
+    /// For so many bytes, or more: with few of them zlib gets no more memory than they need, which takes it longer to
+    /// clear than to use.
+    explicit ZAMPrintCairoDeflater(std::size_t expected);
 
     void Add(std::string_view bytes) { Run(bytes, Z_NO_FLUSH); }
     /// All that was added, packed; nothing can be added any more.

@@ -43,15 +43,22 @@ void ZAMPrintCairoPlainText::AddWord(std::string_view word) {
     }
     _Text += word;
     if (_Text.size() > kBlock) {
-        _Deflater.Add(_Text);
+        Pack();
         // The separator of what follows.
         _Text.assign(1, '\n');
     }
 }
 
 std::string ZAMPrintCairoPlainText::Finish() {
-    _Deflater.Add(_Text);
-    return _Deflater.Finish();
+    Pack();
+    return _Deflater->Finish();
+}
+
+void ZAMPrintCairoPlainText::Pack() {
+    if (!_Deflater) {
+        _Deflater.emplace(_Text.size());
+    }
+    _Deflater->Add(_Text);
 }
 
 /// Lines end with their operators, so that they stay short.

@@ -4,6 +4,7 @@
 #include "generators/cairo/ZAMPrintCairoDeflater.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,7 +22,8 @@ public:
 
 private:
     void Separate();
+    void Pack();
 
     std::string _Text; ///< not packed yet
-    ZAMPrintCairoDeflater _Deflater;
+    std::optional<ZAMPrintCairoDeflater> _Deflater;
 };
