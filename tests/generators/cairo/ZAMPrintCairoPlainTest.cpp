@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "tests/generators/cairo/Drawing.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+#include <sstream>
+
+namespace {
+
+/// The content of the only page, without the map that turns it upside down.
+std::string ContentOf(const std::string& pdf) {
+    const std::string text = Uncompress(pdf);
+    const std::string start = "1 0 0 -1 0 100 cm";
+    const std::size_t begin = text.find(start) + start.size();
+    std::string content = text.substr(begin, text.find("endstream", begin) - begin);
+    std::ranges::replace(content, '\n', ' ');
+    return content;
+}
+
+/// Marks of all kinds, on the page and beside it.
+void DrawMany(ZAMPrintCairoGenerator& generator, unsigned int seed) {
+    std::mt19937 random(seed);
+    const auto number = [&](double from, double to) {
+        return from + (to - from) * (static_cast<double>(random() % 100000) / 1e5);
+    };
+    const auto point = [&] { return ZAMMathPoint2D{number(-20.0, 120.0), number(-20.0, 120.0)}; };
+    const auto colour = [&] {
+        const auto byte = [&] { return static_cast<unsigned char>(random() % 256); };
+        return ZAMPrintColour{byte(), byte(), byte(), random() % 2 == 0 ? static_cast<unsigned char>(255) : byte()};
+    };
+    const float dashes[] = {4.0F, 2.0F, 1.0F};
+    for (int mark = 0; mark < 40; ++mark) {
+        ZAMPrintPath path = MakeRectangle(number(-20.0, 90.0), number(-20.0, 90.0), number(1.0, 40.0), 9.0);
+        if (random() % 2 == 0) {
+            path.MoveTo(point());
+            path.CubicTo(point(), point(), point());
+            path.LineTo(point());
+            random() % 2 == 0 ? path.ClosePath() : path.LineTo(point());
+        }
+        const ZAMPrintFill fill{colour(), random() % 2 == 0 ? ZAMPrtFillRule::NonZero : ZAMPrtFillRule::EvenOdd};
+        ZAMPrintPen pen = MakePen(number(0.2, 5.0));
+        pen.colour = colour();
+        pen.cap = random() % 2 == 0 ? ZAMPrintLineAttribute::CapRound : ZAMPrintLineAttribute::CapButt;
+        pen.join = random() % 2 == 0 ? ZAMPrintLineAttribute::JoinBevel : ZAMPrintLineAttribute::JoinMiter;
+        pen.dashes = random() % 4 == 0 ? std::span<const float>(dashes) : std::span<const float>();
+        const ZAMMathAffine2D map =
+            random() % 3 == 0 ? ZAMMathAffine2D{1.2, 0.3, -0.1, 0.7, 3.0, 2.0} : ZAMMathAffine2D{};
+        const bool isClipped = random() % 3 == 0;
+        if (isClipped) {
+            generator.PushClip({number(0.0, 40.0), number(0.0, 40.0), 90.0, 80.0}, map);
+        }
+        const auto kind = random() % 3;
+        generator.DrawPath(path, map, kind != 0 ? &fill : nullptr, kind != 1 ? &pen : nullptr);
+        if (isClipped) {
+            generator.PopClip();
+        }
+    }
+}
+
+/// The share of samples that differ by more than smoothing does.
+double Differ(const std::string& one, const std::string& other) {
+    EXPECT_EQ(one.size(), other.size());
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < std::min(one.size(), other.size()); ++i) {
+        count += std::abs(static_cast<unsigned char>(one[i]) - static_cast<unsigned char>(other[i])) > 40 ? 1U : 0U;
+    }
+    return static_cast<double>(count) / static_cast<double>(one.size());
+}
+
+std::string Show(const std::string& pdf, int page = 1) {
+    return Ask("pdftoppm", "-r 144 -f " + std::to_string(page) + " -singlefile {}", pdf);
+}
+
+} // namespace
+
+TEST(ZAMPrintCairoPlain, WritesEachMarkInItsShortestForm) {
+    const ZAMPrintFill black{{0, 0, 0, 255}};
+    const ZAMPrintFill faint{{255, 0, 51, 128}};
+    const ZAMPrintPen thin = MakePen(1.0);
+    const ZAMPrintPen thick = MakePen(2.5);
+    const struct {
+        const char* path;
+        const ZAMPrintFill* fill;
+        const ZAMPrintPen* pen;
+        const char* content;
+    } rows[] = {
+        {"M 1 2 L 3 2 L 3 6.5 L 1 6.5 Z", &black, nullptr, " 1 2 2 4.5 re f "},
+        {"M 1 2 L 1 6 L 3 6 L 3 2 Z", &black, nullptr, " 1 2 m 1 6 l 3 6 l 3 2 l f "},
+        // A fill closes its contours, and needs no line back to where they begin; a stroke is closed with one.
+        {"M 0.5 0 L 9.12345 0 L 9 9 L 0.5 0 Z", &black, nullptr, " .5 0 m 9.123 0 l 9 9 l f "},
+        {"M 0.5 0 L 9 0 L 9 9 L 0.5 0 Z", nullptr, &thin, " 4 M .5 0 m 9 0 l 9 9 l h S "},
+        {"M 0 0 C 0 0 1 2 3 4 C 5 6 7 8 7 8 C 1 2 3 4 -5 -0.25", nullptr, &thick,
+         " 2.5 w 4 M 0 0 m 1 2 3 4 v 5 6 7 8 y 1 2 3 4 -5 -.25 c S "},
+        {"M 1 1 L 1 1 L 2 2", &black, &thin, " 4 M 1 1 m 1 1 l 2 2 l B "},
+        {"M 1 1 L 9 1 L 5 5", &faint, nullptr, " /a128 gs 1 0 .2 rg 1 1 m 9 1 l 5 5 l f "},
+        // Nothing to see.
+        {"M 1 1 L 9 1", &black, nullptr, " "},
+        {"M 200 200 L 300 300 L 200 300 Z", &black, &thin, " "},
+    };
+    for (const auto& row : rows) {
+        const std::string pdf = DrawPdf([&](auto& g) { g.DrawPath(MakePath(row.path), {}, row.fill, row.pen); });
+        ExpectSound(pdf);
+        EXPECT_EQ(ContentOf(pdf), row.content) << row.path;
+    }
+}
+
+TEST(ZAMPrintCairoPlain, ClipsEndWithWhatWasSetInThem) {
+    const auto draw = [](auto& g) {
+        g.PushClip({0.0, 0.0, 100.0, 100.0}, {}); // all of the page
+        g.PushClip({10.0, 10.0, 90.0, 20.0}, {});
+        g.DrawPath(MakeRectangle(0.0, 0.0, 50.0, 50.0), {}, &kRed, nullptr);
+        g.PopClip();
+        g.PushClip({10.0, 10.0, 90.0, 20.0}, {}); // with nothing in it
+        g.PopClip();
+        g.DrawPath(MakeRectangle(0.0, 0.0, 50.0, 50.0), {}, &kRed, nullptr);
+        g.PopClip();
+        g.PushClip({}, {}); // leaves nothing open
+        g.DrawPath(MakeRectangle(0.0, 0.0, 50.0, 50.0), {}, &kBlue, nullptr);
+    };
+    EXPECT_EQ(ContentOf(DrawPdf(draw)), " q 10 10 80 10 re W n 1 0 0 rg 0 0 50 50 re f Q 1 0 0 rg 0 0 50 50 re f ");
+}
+
+TEST(ZAMPrintCairoPlain, ShowsWhatCairoShows) {
+    for (unsigned int seed = 1; seed <= 5; ++seed) {
+        const std::string plain = DrawPdf([&](auto& g) { DrawMany(g, seed); });
+        const std::string cairo = DrawPdf([&](auto& g) {
+            DrawMany(g, seed);
+            g.AddLink({0.0, 0.0, 1.0, 1.0}, "http://example.com/");
+        });
+        ExpectSound(plain);
+        EXPECT_EQ(Count(plain, "/Producer(ZAM print)"), 1);
+        EXPECT_EQ(Count(cairo, "/Producer (cairo"), 1);
+        EXPECT_LT(Differ(Show(plain), Show(cairo)), 0.002) << seed;
+    }
+}
+
+TEST(ZAMPrintCairoPlain, APageThatNeedsCairoTakesTheOthersAlong) {
+    const auto image = MakeImage(2, 2, [](int, int) { return 0xFF00FF00U; });
+    std::ostringstream out;
+    ZAMPrintCairoGenerator generator(ZAMPrintCairoGenerator::Format::Pdf, out);
+    ASSERT_EQ(generator.BeginDocument({}), 1);
+    for (unsigned int page = 1; page <= 3; ++page) {
+        ASSERT_EQ(generator.BeginPage(100.0, 100.0), 1);
+        generator.PushClip({0.0, 0.0, 90.0, 90.0}, {});
+        DrawMany(generator, page);
+        if (page == 2) {
+            generator.DrawImage(image, {10.0, 0.0, 0.0, 10.0, 85.0, 85.0});
+        }
+        generator.PopClip();
+        ASSERT_EQ(generator.EndPage(), 1);
+    }
+    ASSERT_EQ(generator.EndDocument(), 1);
+    ExpectSound(out.str());
+    EXPECT_EQ(Count(Ask("pdfinfo", "{}", out.str()), "Pages:           3"), 1);
+    for (const int page : {1, 3}) {
+        const std::string alone = DrawPdf([&](auto& g) {
+            g.PushClip({0.0, 0.0, 90.0, 90.0}, {});
+            DrawMany(g, static_cast<unsigned int>(page));
+        });
+        EXPECT_LT(Differ(Show(alone), Show(out.str(), page)), 0.002) << page;
+    }
+    // The picture is green, and the clip ends it: 5 x 5 points of it show.
+    const std::string shown = Show(out.str(), 2);
+    const std::size_t row = shown.size() - std::size_t{3} * 200 * 200 + std::size_t{3} * (200 * 175 + 175);
+    EXPECT_EQ(shown.substr(row, 3), std::string("\0\xFF\0", 3));
+}
