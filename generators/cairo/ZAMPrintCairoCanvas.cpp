@@ -7,6 +7,7 @@
 #include "generators/cairo/ZAMPrintCairoLimits.h"
 #include "generators/cairo/ZAMPrintCairoMap.h"
 #include "generators/cairo/ZAMPrintCairoPicturePainter.h"
+#include "generators/cairo/ZAMPrintCairoPictures.h"
 #include "generators/cairo/ZAMPrintCairoStrokeCutter.h"
 #include "generators/cairo/ZAMPrintCairoTiles.h"
 #include "generators/cairo/ZAMPrintCairoWorld.h"
@@ -143,14 +144,21 @@ void ZAMPrintCairoCanvas::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine
     _Path.Assign(path, toDevice);
     // Before the path is the context's: what is drawn for the tiles would add to it.
     std::vector<ZAMPrintCairoPattern> tiles;
+    double opacity = 1.0;
     if (fills && fill->pattern != nullptr) {
-        tiles = MakeTiles(*fill->pattern, toDevice);
+        opacity = fill->colour.alpha / 255.0;
+        if (auto rings = MakeRings(*fill->pattern, opacity, toDevice)) {
+            tiles.push_back(std::move(rings));
+            opacity = 1.0;
+        } else {
+            tiles = MakeTiles(*fill->pattern, toDevice);
+        }
     }
     _IsMuchWork = IsMuchWork(strokes ? stroke->GetReach() : 0.0);
     cairo_set_antialias(_Context.get(), _IsMuchWork ? CAIRO_ANTIALIAS_NONE : CAIRO_ANTIALIAS_DEFAULT);
     EmitFill();
     if (fills) {
-        fill->pattern == nullptr ? Fill(*fill) : FillWithTiles(*fill, tiles);
+        fill->pattern == nullptr ? Fill(*fill) : FillWithTiles(fill->rule, tiles, opacity);
     }
     if (strokes) {
         Stroke(*stroke);
@@ -220,6 +228,34 @@ std::vector<ZAMPrintCairoPattern> ZAMPrintCairoCanvas::MakeTiles(const ZAMPrtFil
     return ZAMPrintCairoTiles(*this, _Pictures, pattern, toDevice, area).MakeSources();
 }
 
+/// The paint of a fill with a single bitmap of rings; null for any other.
+ZAMPrintCairoPattern ZAMPrintCairoCanvas::MakeRings(const ZAMPrtFillPattern& pattern, double opacity,
+                                                    const ZAMMathAffine2D& toDevice) const {
+    const ZAMMathVector2D& step = pattern.step;
+    const auto isSeamless = [](double size, double each) { return std::abs(size - each) <= each / 512.0; };
+    if (_Kind != Kind::Vector || !isSeamless(pattern.size.x, step.x) || !isSeamless(pattern.size.y, step.y) ||
+        ZAMPrintCairoMap::IsFlat(toDevice)) {
+        return nullptr;
+    }
+    const ZAMMathAffine2D fromDevice = ZAMPrintCairoMap::Invert(toDevice);
+    ZAMMathBox2D filled;
+    for (const ZAMMathPoint2D& point : _Path.GetPath().GetPoints()) {
+        filled.Add(fromDevice.Apply(point));
+    }
+    const double x = std::floor((filled.xMin - pattern.refPoint.x) / step.x) * step.x + pattern.refPoint.x;
+    const double y = std::floor((filled.yMin - pattern.refPoint.y) / step.y) * step.y + pattern.refPoint.y;
+    if (!(filled.xMax <= x + step.x && filled.yMax <= y + step.y)) {
+        return nullptr;
+    }
+    const double pixelWidth = step.x / pattern.image->GetWidth();
+    const double pixelHeight = step.y / pattern.image->GetHeight();
+    const ZAMPrintCairoRings* rings = _Pictures.FindRings(pattern.image, pixelHeight / pixelWidth);
+    return rings == nullptr
+               ? nullptr
+               : rings->MakeSource(toDevice * ZAMMathAffine2D{pixelWidth, 0.0, 0.0, -pixelWidth, x, y + step.y},
+                                   opacity);
+}
+
 // The path stays: of a fill and a stroke of one path the PDF makes one operator.
 
 void ZAMPrintCairoCanvas::Fill(const ZAMPrintFill& fill) {
@@ -228,14 +264,15 @@ void ZAMPrintCairoCanvas::Fill(const ZAMPrintFill& fill) {
     cairo_fill_preserve(_Context.get());
 }
 
-void ZAMPrintCairoCanvas::FillWithTiles(const ZAMPrintFill& fill, const std::vector<ZAMPrintCairoPattern>& tiles) {
+void ZAMPrintCairoCanvas::FillWithTiles(ZAMPrtFillRule rule, const std::vector<ZAMPrintCairoPattern>& tiles,
+                                        double opacity) {
     cairo_t* context = _Context.get();
     cairo_save(context);
-    SetFillRule(context, fill.rule);
+    SetFillRule(context, rule);
     cairo_clip_preserve(context);
     for (const ZAMPrintCairoPattern& source : tiles) {
         cairo_set_source(context, source.get());
-        cairo_paint_with_alpha(context, fill.colour.alpha / 255.0);
+        cairo_paint_with_alpha(context, opacity);
     }
     cairo_restore(context);
 }

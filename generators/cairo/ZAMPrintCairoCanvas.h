@@ -71,8 +71,10 @@ private:
     void EmitFill();
     [[nodiscard]] std::vector<ZAMPrintCairoPattern> MakeTiles(const ZAMPrtFillPattern& pattern,
                                                               const ZAMMathAffine2D& toDevice);
+    [[nodiscard]] ZAMPrintCairoPattern MakeRings(const ZAMPrtFillPattern& pattern, double opacity,
+                                                 const ZAMMathAffine2D& toDevice) const;
     void Fill(const ZAMPrintFill& fill);
-    void FillWithTiles(const ZAMPrintFill& fill, const std::vector<ZAMPrintCairoPattern>& tiles);
+    void FillWithTiles(ZAMPrtFillRule rule, const std::vector<ZAMPrintCairoPattern>& tiles, double opacity);
     void Stroke(ZAMPrintCairoPen& pen);
     void StrokePieces(ZAMPrintCairoPen& pen);
     void AddSolid(const ZAMPrintPath& contour, const ZAMPrintCairoPen& pen);

@@ -67,6 +67,15 @@ cairo_surface_t* ZAMPrintCairoPictures::Find(const ZAMRef<ZAMPixelImage>& image,
     return (known->surfaces[form] = std::move(surface)).get();
 }
 
+const ZAMPrintCairoRings* ZAMPrintCairoPictures::FindRings(const ZAMRef<ZAMPixelImage>& image, double aspect) {
+    static_cast<void>(FindImage(image)); // holds on to it
+    const auto [place, isNew] = _Rings.try_emplace({image.Get(), static_cast<float>(aspect)});
+    if (isNew) {
+        place->second = ZAMPrintCairoRings::Find(*image, aspect);
+    }
+    return place->second ? &*place->second : nullptr;
+}
+
 void ZAMPrintCairoPictures::EndPage() {
     _Made = 0;
     for (auto& [key, known] : _Images) {

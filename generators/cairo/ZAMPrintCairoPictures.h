@@ -4,11 +4,14 @@
 #include "framework/base/ZAMRef.h"
 #include "framework/visualisation/ZAMPixelImage.h"
 #include "generators/cairo/ZAMPrintCairoHandles.h"
+#include "generators/cairo/ZAMPrintCairoRings.h"
 
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
+#include <utility>
 
 /// The pictures of a document as surfaces: each is made once, and a PDF stores it once. It holds on to the images, and
 /// must outlive the surfaces that they are drawn on.
@@ -75,6 +78,8 @@ public:
         }
         return SpendCell(cell) ? _Cells[cell] = make() : ZAMRef<ZAMPixelImage>();
     }
+    /// The image as rings; null when it has none. See ZAMPrintCairoRings for the aspect.
+    [[nodiscard]] const ZAMPrintCairoRings* FindRings(const ZAMRef<ZAMPixelImage>& image, double aspect);
     /// Drops what was made of images for the page.
     void EndPage();
 
@@ -93,6 +98,7 @@ private:
     bool _KeepsMarks;
     std::map<const ZAMPixelImage*, Known> _Images;
     std::map<Cell, ZAMRef<ZAMPixelImage>> _Cells;
+    std::map<std::pair<const ZAMPixelImage*, float>, std::optional<ZAMPrintCairoRings>> _Rings;
     std::size_t _Made = 0;      ///< pixels for the page
     std::size_t _CellsMade = 0; ///< pixels for the document
 };
