@@ -8,6 +8,7 @@
 #include "generators/cairo/ZAMPrintCairoMap.h"
 #include "generators/cairo/ZAMPrintCairoPicturePainter.h"
 #include "generators/cairo/ZAMPrintCairoPictures.h"
+#include "generators/cairo/ZAMPrintCairoReach.h"
 #include "generators/cairo/ZAMPrintCairoStrokeCutter.h"
 #include "generators/cairo/ZAMPrintCairoTiles.h"
 #include "generators/cairo/ZAMPrintCairoWorld.h"
@@ -215,11 +216,7 @@ std::vector<ZAMPrintCairoPattern> ZAMPrintCairoCanvas::MakeTiles(const ZAMPrtFil
                                                                  const ZAMMathAffine2D& toDevice) {
     ZAMMathBox2D clip;
     cairo_clip_extents(_Context.get(), &clip.xMin, &clip.yMin, &clip.xMax, &clip.yMax);
-    ZAMMathBox2D reach;
-    for (const ZAMMathPoint2D& point : _Path.GetPath().GetPoints()) {
-        reach.Add(point);
-    }
-    const ZAMMathBox2D shown = reach.Intersection(clip).Intersection(_Page);
+    const ZAMMathBox2D shown = ZAMPrintCairoReach(_Path.GetPath()).Intersection(clip).Intersection(_Page);
     if (!(shown.Width() > 0.0 && shown.Height() > 0.0)) {
         return {};
     }
@@ -237,11 +234,7 @@ ZAMPrintCairoPattern ZAMPrintCairoCanvas::MakeRings(const ZAMPrtFillPattern& pat
         ZAMPrintCairoMap::IsFlat(toDevice)) {
         return nullptr;
     }
-    const ZAMMathAffine2D fromDevice = ZAMPrintCairoMap::Invert(toDevice);
-    ZAMMathBox2D filled;
-    for (const ZAMMathPoint2D& point : _Path.GetPath().GetPoints()) {
-        filled.Add(fromDevice.Apply(point));
-    }
+    const ZAMMathBox2D filled = ZAMPrintCairoReach(_Path.GetPath(), ZAMPrintCairoMap::Invert(toDevice));
     const double x = std::floor((filled.xMin - pattern.refPoint.x) / step.x) * step.x + pattern.refPoint.x;
     const double y = std::floor((filled.yMin - pattern.refPoint.y) / step.y) * step.y + pattern.refPoint.y;
     if (!(filled.xMax <= x + step.x && filled.yMax <= y + step.y)) {
