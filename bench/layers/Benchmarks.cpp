@@ -44,7 +44,7 @@ template <typename Made>
 void MeasureMaking(State& state, const Documents& documents, const std::function<Made(std::size_t)>& make) {
     std::vector<Made> made;
     made.reserve(documents.GetTexts().size());
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (std::size_t i = 0; i < documents.GetTexts().size(); ++i) {
             made.push_back(make(i));
         }
@@ -59,7 +59,7 @@ void MeasureNumbers(State& state, const Documents& documents) {
     const std::vector<std::string> numbers = documents.FindNumbers();
     std::size_t size = 0;
     std::ranges::for_each(numbers, [&](const std::string& number) { size += number.size() + 1; });
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         double value = 0.0;
         for (const std::string& number : numbers) {
             benchmark::DoNotOptimize(ZAMReadDouble(number, value));
@@ -101,12 +101,17 @@ void MeasureDrawing(State& state, const Documents& documents, Format format) {
     Models models;
     std::ranges::transform(documents.GetTexts(), std::back_inserter(models),
                            [](const std::string& text) { return MakeModel(text, true); });
+    // All on pages of one size: some drawings are too large for a picture.
+    constexpr double kSide = 400.0;
+    ZAMPrintParameters parameters;
+    parameters.pageWidth = kSide;
+    parameters.pageHeight = kSide;
     NullBuffer buffer;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const auto& model : models) {
             std::ostream out(&buffer);
             ZAMPrintCairoGenerator generator(format, out);
-            if (ZAMPrintModelRender(model.Get(), &generator, {}).Draw() != 1) {
+            if (ZAMPrintModelRender(model.Get(), &generator, parameters).Draw() != 1) {
                 throw std::runtime_error(generator.GetError());
             }
         }

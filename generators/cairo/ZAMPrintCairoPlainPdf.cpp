@@ -128,8 +128,8 @@ void ZAMPrintCairoPlainPdf::WritePage(const Page& page) {
     BeginObject();
     std::string resources;
     for (const int opacity : page.opacities) {
-        const std::string share = Format("%.3g", opacity / 255.0);
-        resources += Format("/a%d", opacity) + "<</CA " + share + "/ca " + share + ">>";
+        const double share = opacity / 255.0;
+        resources += Format("/a%d<</CA %.3g/ca %.3g>>", opacity, share, share);
     }
     Add(Format("<</Type/Page/Parent %zu 0 R/MediaBox[0 0 ", kPageTree) + ToText(page.width) + " " +
         ToText(page.height) + Format("]/Contents %zu 0 R/Resources<<", _Objects.size() + 1));
