@@ -117,6 +117,10 @@ private:
     std::size_t _Decimals = 0;
 };
 
+constexpr bool FoldsToE(char c) {
+    return c == 'e' || c == 'E';
+}
+
 // The scan commits itself to a word or a hexadecimal number by its first letters and reads nothing when the rest is not
 // there: "infi" and "0x" are no numbers, though "inf" and "0" would be.
 int ReadUnsignedDouble(std::string_view text, double& value) {
@@ -142,7 +146,9 @@ int ReadUnsignedDouble(std::string_view text, double& value) {
     if (!StartsDecimal(text)) {
         return 0;
     }
-    value = ReadMagnitude(text, std::chars_format::general);
+    const ShortDecimal number(text);
+    const bool hasExponent = !number.GetRest().empty() && FoldsToE(number.GetRest().front());
+    value = number.IsExact() && !hasExponent ? number.GetValue() : ReadMagnitude(text, std::chars_format::general);
     return 1;
 }
 

@@ -4,9 +4,9 @@
 #include "framework/base/ZAMBaseUnknown.h"
 #include "framework/base/ZAMExport.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
-#include <unordered_map>
 #include <vector>
 
 /// The colours of an image element, numbered from 0 in the order in which they were added.
@@ -30,6 +30,13 @@ public:
     [[nodiscard]] std::span<const Colour> GetColours() const { return _Colours; }
 
 private:
+    // The slot of the colour's first index, or the free one where it belongs.
+    [[nodiscard]] std::size_t FindSlot(const Colour& colour) const;
+    void Grow();
+
     std::vector<Colour> _Colours;
-    std::unordered_map<std::uint32_t, unsigned int> _FirstIndex; // by 0xRRGGBB
+    // First indices, counted from 1, each at its colour's hash or in one of the slots that follow; 0 is free. A power
+    // of two, and more than half of them are free.
+    std::vector<std::uint32_t> _Slots;
+    std::size_t _UsedSlots = 0;
 };

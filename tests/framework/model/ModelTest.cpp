@@ -6,8 +6,11 @@
 #include "framework/visualisation/ZAMFont.h"
 
 #include <cmath>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
+#include <map>
+#include <random>
 #include <sstream>
 #include <thread>
 #include <vector>
@@ -202,6 +205,22 @@ TEST(ColourTableTest, FindsTheFirstIndexAndAddsAlways) {
     EXPECT_EQ(*table->GetColour(2), (ZAMPrtColourTable::Colour{3, 2, 1}));
     EXPECT_EQ(table->GetColour(3), nullptr);
     EXPECT_EQ(table->GetColour(kZAMPrtNoColour), nullptr);
+}
+
+TEST(ColourTableTest, ManyColoursAreFoundWhereTheyWereAddedFirst) {
+    const auto table = ZAMNew<ZAMPrtColourTable>();
+    std::map<std::uint32_t, unsigned int> expected;
+    std::mt19937 random(24); // NOLINT: every run adds the same colours
+    for (int i = 0; i < 30'000; ++i) {
+        const std::uint32_t colour = random() % 3 == 0 ? random() % 64 : random() & 0xFFFFFFU;
+        const auto part = [colour](unsigned shift) { return static_cast<unsigned char>(colour >> shift); };
+        unsigned int index = 0;
+        EXPECT_EQ(table->FindColour(index, part(16), part(8), part(0)), expected.contains(colour) ? 1 : 0);
+        EXPECT_EQ(index, expected.contains(colour) ? expected[colour] : 0);
+        EXPECT_EQ(table->AddColour(part(16), part(8), part(0), index), 1);
+        EXPECT_EQ(index, static_cast<unsigned int>(i));
+        expected.try_emplace(colour, index);
+    }
 }
 
 TEST(ElementTest, ClassesAreToldApartExactly) {
