@@ -55,6 +55,11 @@ ZAMPrtGraphicPrimitiveElt* ZAMPrintSVGDefinitions::ChildAt(const Position& posit
 }
 
 void ZAMPrintSVGDefinitions::RemoveLast(int count) {
+    if (count > 0 &&
+        static_cast<std::size_t>(count) == _List.GetCount()) { // the end of a document: no need to look each one up
+        *this = {};
+        return;
+    }
     for (; count > 0; --count) {
         const std::size_t last = _List.GetCount();
         Forget(last);

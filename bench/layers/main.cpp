@@ -8,8 +8,21 @@
 #include <cstdio>
 #include <deque>
 #include <exception>
+#include <limits>
+#include <malloc.h>
 #include <span>
 #include <string_view>
+
+namespace {
+
+// Large blocks go back to the kernel and come again page by page, small ones stay: how memory is got would be taken for
+// how the work grows.
+void KeepMemory() {
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+}
+
+} // namespace
 
 int main(int count, char** values) {
     benchmark::Initialize(&count, values);
@@ -18,6 +31,9 @@ int main(int count, char** values) {
     if (kind != "layers" && kind != "growth") {
         std::fputs("usage: bench_layers layers|growth FILE|FOLDER... [--benchmark_...]\n", stderr);
         return 2;
+    }
+    if (kind == "growth") {
+        KeepMemory();
     }
     try {
         std::deque<Documents> documents; // benchmarks refer to them

@@ -19,6 +19,8 @@ def _run(program, kind, paths, options):
                             stdout=subprocess.PIPE, text=True).stdout
     found = {}
     for row in json.loads(output)['benchmarks']:
+        if row['run_type'] != 'iteration':
+            continue
         step, name = row['name'].split('/')[:2]
         best = found.setdefault(name, {}).get(step)
         if best is None or row['cpu_time'] < best['cpu_time']:

@@ -10,10 +10,15 @@
 #include <unistd.h>
 #include <vector>
 
+/// The folder of this process's own font configuration.
+inline std::string FontConfigurationFolder() {
+    return testing::TempDir() + "zam-fonts-" + std::to_string(getpid());
+}
+
 /// Writes a font configuration that knows only the given folders of the system's fonts (their names below
 /// /usr/share/fonts/truetype) and makes it this process's own. It must run before the first use of a font.
 inline void UseFontFolders(const std::vector<std::string>& folders) {
-    const std::string base = testing::TempDir() + "zam-fonts-" + std::to_string(getpid());
+    const std::string base = FontConfigurationFolder();
     std::filesystem::create_directories(base);
     std::ofstream file(base + "/fonts.conf");
     file << "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig>";
@@ -45,5 +50,6 @@ inline bool IsMapped(const std::string& namePart) {
 class CommonFonts : public testing::Environment {
 public:
     void SetUp() override { UseFontFolders({"liberation2", "dejavu"}); }
+    void TearDown() override { std::filesystem::remove_all(FontConfigurationFolder()); }
 };
 inline testing::Environment* const commonFonts = testing::AddGlobalTestEnvironment(new CommonFonts);
