@@ -22,9 +22,12 @@ struct Name {
     std::string_view local;
 };
 
+// A colon at the end separates nothing: no element is without a name.
 Name Split(std::string_view name) {
     const std::size_t colon = name.find(':');
-    return colon == std::string_view::npos ? Name{{}, name} : Name{name.substr(0, colon), name.substr(colon + 1)};
+    return colon == std::string_view::npos || colon + 1 == name.size()
+               ? Name{{}, name}
+               : Name{name.substr(0, colon), name.substr(colon + 1)};
 }
 
 // The prefixes of the two namespaces. Those that documents use as a rule need no declaration.
