@@ -5,6 +5,7 @@
 #include "generators/cairo/ZAMPrintCairoCanvas.h"
 #include "generators/cairo/ZAMPrintCairoFailure.h"
 #include "generators/cairo/ZAMPrintCairoFonts.h"
+#include "generators/cairo/ZAMPrintCairoLimits.h"
 #include "generators/cairo/ZAMPrintCairoPdfOutput.h"
 #include "generators/cairo/ZAMPrintCairoPngOutput.h"
 #include "generators/cairo/ZAMPrintCairoPsOutput.h"
@@ -56,18 +57,21 @@ public:
     [[nodiscard]] const std::string& GetError() const { return _Error; }
     [[nodiscard]] const ZAMPrintCairoOutput& GetOutput() const { return *_Output; }
 
+    // Both do nothing for a generator for which there was no memory.
+
     /// A step from one state to another; out of order nothing happens.
-    template <class Step> int Run(State from, State to, const Step& step) noexcept {
-        if (_State != from || !_Error.empty() || !Guard(step)) {
+    template <class Step>
+    static int Run(const std::unique_ptr<Implementation>& self, State from, State to, const Step& step) noexcept {
+        if (!self || self->_State != from || !self->_Error.empty() || !self->Guard(step)) {
             return -1;
         }
-        _State = to;
+        self->_State = to;
         return 1;
     }
     /// A mark on the page, if there is one.
-    template <class Step> void Draw(const Step& step) noexcept {
-        if (_Canvas != nullptr && _Error.empty()) {
-            Guard([&] { step(*_Canvas); });
+    template <class Step> static void Draw(const std::unique_ptr<Implementation>& self, const Step& step) noexcept {
+        if (self && self->_Canvas != nullptr && self->_Error.empty()) {
+            self->Guard([&] { step(*self->_Canvas); });
         }
     }
 
@@ -161,69 +165,78 @@ private:
     bool _HasPage = false;
 };
 
-ZAMPrintCairoGenerator::ZAMPrintCairoGenerator(Format format, std::ostream& out)
-    : _Implementation(std::make_unique<Implementation>(format, out)) {}
+ZAMPrintCairoGenerator::ZAMPrintCairoGenerator(Format format, std::ostream& out) {
+    try {
+        _Implementation = std::make_unique<Implementation>(format, out);
+    } catch (const std::bad_alloc&) {
+        _Implementation = nullptr; // that is an error
+    }
+}
 
 ZAMPrintCairoGenerator::~ZAMPrintCairoGenerator() = default;
 
 double ZAMPrintCairoGenerator::GetLargestPageSide() const {
-    return _Implementation->GetOutput().GetLargestPageSide();
+    return _Implementation ? _Implementation->GetOutput().GetLargestPageSide() : ZAMPrintCairoLimits::kLargestPdfSide;
 }
 
 int ZAMPrintCairoGenerator::BeginDocument(const ZAMPrintParameters& parameters) {
-    return _Implementation->Run(Implementation::State::New, Implementation::State::InDocument,
-                                [&] { _Implementation->BeginDocument(parameters); });
+    return Implementation::Run(_Implementation, Implementation::State::New, Implementation::State::InDocument,
+                               [&] { _Implementation->BeginDocument(parameters); });
 }
 
 int ZAMPrintCairoGenerator::BeginPage(double width, double height) {
-    return _Implementation->Run(Implementation::State::InDocument, Implementation::State::OnPage,
-                                [&] { _Implementation->BeginPage(width, height); });
+    return Implementation::Run(_Implementation, Implementation::State::InDocument, Implementation::State::OnPage,
+                               [&] { _Implementation->BeginPage(width, height); });
 }
 
 int ZAMPrintCairoGenerator::EndPage() {
-    return _Implementation->Run(Implementation::State::OnPage, Implementation::State::InDocument,
-                                [&] { _Implementation->EndPage(); });
+    return Implementation::Run(_Implementation, Implementation::State::OnPage, Implementation::State::InDocument,
+                               [&] { _Implementation->EndPage(); });
 }
 
 int ZAMPrintCairoGenerator::EndDocument() {
-    return _Implementation->Run(Implementation::State::InDocument, Implementation::State::Ended,
-                                [&] { _Implementation->EndDocument(); });
+    return Implementation::Run(_Implementation, Implementation::State::InDocument, Implementation::State::Ended,
+                               [&] { _Implementation->EndDocument(); });
 }
 
 void ZAMPrintCairoGenerator::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) {
-    _Implementation->Draw([&](ZAMPrintCairoCanvas& canvas) { canvas.PushClip(area, toPage); });
+    Implementation::Draw(_Implementation, [&](ZAMPrintCairoCanvas& canvas) { canvas.PushClip(area, toPage); });
 }
 
 void ZAMPrintCairoGenerator::PopClip() {
-    _Implementation->Draw([](ZAMPrintCairoCanvas& canvas) { canvas.PopClip(); });
+    Implementation::Draw(_Implementation, [](ZAMPrintCairoCanvas& canvas) { canvas.PopClip(); });
 }
 
 void ZAMPrintCairoGenerator::AddLink(const ZAMMathBox2D& area, std::string_view address) {
-    _Implementation->Draw([&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddLink(area, address); });
+    Implementation::Draw(_Implementation,
+                         [&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddLink(area, address); });
 }
 
 void ZAMPrintCairoGenerator::AddInternalLink(const ZAMMathBox2D& area, std::string_view destination) {
-    _Implementation->Draw(
-        [&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddInternalLink(area, destination); });
+    Implementation::Draw(_Implementation,
+                         [&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddInternalLink(area, destination); });
 }
 
 void ZAMPrintCairoGenerator::AddDestination(std::string_view name, const ZAMMathPoint2D& place) {
-    _Implementation->Draw([&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddDestination(name, place); });
+    Implementation::Draw(_Implementation,
+                         [&](ZAMPrintCairoCanvas& /*canvas*/) { _Implementation->AddDestination(name, place); });
 }
 
 void ZAMPrintCairoGenerator::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                                       const ZAMPrintPen* pen) {
-    _Implementation->Draw([&](ZAMPrintCairoCanvas& canvas) { canvas.DrawPath(path, toPage, fill, pen); });
+    Implementation::Draw(_Implementation,
+                         [&](ZAMPrintCairoCanvas& canvas) { canvas.DrawPath(path, toPage, fill, pen); });
 }
 
 void ZAMPrintCairoGenerator::DrawText(const ZAMTextLayout& layout, const ZAMMathAffine2D& toPage,
                                       const ZAMPrintFill* fill, const ZAMPrintPen* pen) {
-    _Implementation->Draw(
-        [&](ZAMPrintCairoCanvas& canvas) { _Implementation->DrawText(canvas, layout, toPage, fill, pen); });
+    Implementation::Draw(_Implementation, [&](ZAMPrintCairoCanvas& canvas) {
+        _Implementation->DrawText(canvas, layout, toPage, fill, pen);
+    });
 }
 
 void ZAMPrintCairoGenerator::DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage) {
-    _Implementation->Draw([&](ZAMPrintCairoCanvas& canvas) {
+    Implementation::Draw(_Implementation, [&](ZAMPrintCairoCanvas& canvas) {
         if (image) {
             canvas.DrawImage(image, toPage);
         }
@@ -231,5 +244,5 @@ void ZAMPrintCairoGenerator::DrawImage(const ZAMRef<ZAMPixelImage>& image, const
 }
 
 std::string ZAMPrintCairoGenerator::GetError() const {
-    return _Implementation->GetError();
+    return _Implementation ? _Implementation->GetError() : "out of memory";
 }
