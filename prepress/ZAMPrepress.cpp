@@ -47,12 +47,6 @@ Rewrites FindNeeded(Rewrites needed) {
     return needed;
 }
 
-void Earn(std::size_t elements) {
-    while (elements-- > 0) {
-        ZAMAllocationBudget::Earn();
-    }
-}
-
 void Empty(ZAMPrepressTree& tree) {
     for (ZAMPrepressElement* drawing : tree.GetDrawings()) {
         drawing->children.clear();
@@ -73,9 +67,9 @@ ZAMLightXmlElement ZAMPrepress::Prepare(const ZAMLightXmlElement& root, ZAMPrepr
         std::optional<ZAMAllocationBudget> budget;
         if (ZAMAllocationBudget::GetCurrent() == nullptr) {
             budget.emplace();
+            ZAMAllocationBudget::Earn(root.GetDocumentSize());
         }
         ZAMPrepressTree tree(root);
-        Earn(tree.GetSize());
         tree.SetTileRenderer(renderer);
         tree.SetPath(path);
         const auto rewrites = ZAMPrepressGetRewrites();

@@ -89,6 +89,8 @@ int ZAMPrintSVG2Interpreter::Decode(ZAMPrintSVGModelDriver* driver) {
     std::optional<ZAMAllocationBudget> budget;
     if (ZAMAllocationBudget::GetCurrent() == nullptr) {
         budget.emplace();
+        ZAMAllocationBudget::Earn(_RootElement != nullptr ? _RootElement->GetDocumentSize()
+                                                          : static_cast<std::size_t>(_BufferLength));
     }
     try {
         if (_RootElement != nullptr) {

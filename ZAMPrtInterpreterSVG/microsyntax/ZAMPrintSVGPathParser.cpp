@@ -30,8 +30,14 @@ int ZAMPrintSVGPathParser::ParsePathString(ZAMPrtGroupElt* group, std::string_vi
     OpenPolyline();
 
     ZAMPrintSVGPathItems items(data);
+    const std::size_t most = ZAMAllocationBudget::GetMostPathCommands();
+    std::size_t commands = 0;
     for (Item item{}; items.Next(item);) {
         ParseItem(item);
+        if (++commands > most || _VertexCount > most) {
+            ZAMAllocationBudget::EndLongPath();
+            break;
+        }
     }
 
     ClosePolyline();

@@ -175,7 +175,6 @@ int ZAMPrintSVGParser::ParseChildren(const ZAMLightXmlElementItf& element, std::
     int result = 0;
     for (ZAMLightXmlPosition position = element.GetFirstChildPosition(); position != 0;) {
         const ZAMLightXmlElement child = element.GetNextChild(position);
-        ZAMAllocationBudget::Earn();
         for (const ChildOperation operation : operations) {
             result = (this->*operation)(child, child.GetName(), parent, definitions);
             if (result != 1) {

@@ -110,7 +110,7 @@ ZAMPrintSVGPreflightPictures::Trouble ZAMPrintSVGPreflightPictures::InspectFile(
         return FindFile(name).empty() ? Fault::MissingImage : Fault::ForbiddenImage;
     }
     std::vector<unsigned char> bytes;
-    if (ZAMReadFile(path, ZAMPixelImage::kMostFileBytes, bytes) != 0) {
+    if (ZAMReadFile(path, ZAMLimits::kPictureBytes, bytes) != 0) {
         return Fault::DamagedImage;
     }
     const bool isDrawn = _Mode == Mode::Prepared && (IsDrawing(bytes) || IsPicture(bytes));

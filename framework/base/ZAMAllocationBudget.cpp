@@ -10,8 +10,8 @@ thread_local ZAMAllocationBudget* current = nullptr;
 
 } // namespace
 
-ZAMAllocationBudget::ZAMAllocationBudget(std::size_t elements)
-    : _Before(std::exchange(current, this)), _Elements(elements) {}
+ZAMAllocationBudget::ZAMAllocationBudget(std::size_t elements, std::size_t pathCommands)
+    : _Before(std::exchange(current, this)), _Elements(elements), _PathCommands(pathCommands) {}
 
 ZAMAllocationBudget::~ZAMAllocationBudget() {
     current = _Before;
@@ -21,9 +21,10 @@ ZAMAllocationBudget* ZAMAllocationBudget::GetCurrent() noexcept {
     return current;
 }
 
-void ZAMAllocationBudget::Earn() noexcept {
-    if (current != nullptr && current->_Elements <= std::numeric_limits<std::size_t>::max() - kElementsForEachRead) {
-        current->_Elements += kElementsForEachRead;
+void ZAMAllocationBudget::Earn(std::size_t bytes) noexcept {
+    const std::size_t elements = bytes / ZAMLimits::kBytesForEachReused;
+    if (current != nullptr && current->_Elements <= std::numeric_limits<std::size_t>::max() - elements) {
+        current->_Elements += elements;
     }
 }
 
@@ -48,6 +49,17 @@ bool ZAMAllocationBudget::SpendPixels(std::size_t pixels) noexcept {
     }
     current->_Pixels -= pixels;
     return true;
+}
+
+std::size_t ZAMAllocationBudget::GetMostPathCommands() noexcept {
+    return current == nullptr ? std::numeric_limits<std::size_t>::max() : current->_PathCommands;
+}
+
+void ZAMAllocationBudget::EndLongPath() noexcept {
+    if (current != nullptr) {
+        current->_IsSpent = true;
+        current->_HasLongPath = true;
+    }
 }
 
 std::size_t ZAMAllocationBudget::GetLeft() noexcept {

@@ -59,6 +59,7 @@ void ZAMLightXmlDocument::Expect(std::size_t elements, std::size_t attributes) {
 void ZAMLightXmlDocument::OpenElement(std::string_view name, std::uint32_t line, std::uint32_t column) {
     const auto number = static_cast<std::uint32_t>(_Nodes.size());
     Node node;
+    _Size += name.size();
     node.name = KeepName(name).text;
     node.firstAttribute = static_cast<std::uint32_t>(_Attributes.size());
     node.line = line;
@@ -78,6 +79,7 @@ void ZAMLightXmlDocument::AddAttribute(std::string_view name, std::string_view v
     const KeptName kept = KeepName(name);
     node.attributeBits |= kept.bit;
     ++node.attributeCount;
+    _Size += name.size() + value.size();
     _Attributes.push_back({kept.text, Keep(value)});
 }
 
@@ -94,6 +96,7 @@ void ZAMLightXmlDocument::AddText(std::string_view data) {
     if (data.empty() || _Open.empty()) {
         return;
     }
+    _Size += data.size();
     OpenNode& open = _Open.back();
     if (ExtendsLastText(open) && data.size() <= _FreeSize && data.size() <= kChunkSize / 4) {
         Keep(data);

@@ -55,6 +55,8 @@ public:
     void CloseElement();
     [[nodiscard]] std::size_t GetOpenCount() const { return _Open.size(); }
 
+    /// The bytes of all names, values and texts.
+    [[nodiscard]] std::size_t GetSize() const { return _Size; }
     [[nodiscard]] bool IsEmpty() const { return _Nodes.empty(); }
     /// Node 0 is the root.
     [[nodiscard]] const Node& GetNode(std::uint32_t node) const { return _Nodes[node]; }
@@ -88,6 +90,7 @@ private:
     std::vector<std::unique_ptr<char[]>> _Chunks;
     char* _Free = nullptr;
     std::size_t _FreeSize = 0;
+    std::size_t _Size = 0;
     std::shared_ptr<const void> _Shared; // what texts are views into; null when they are copied
     std::vector<KeptName> _RecentNames;  // few names make up a document; see KeepName
 };

@@ -83,6 +83,10 @@ ZAMLightXmlElementItf::TextRun ZAMLightXmlElement::GetNextText(ZAMLightXmlPositi
     return {text.data, text.childrenBefore};
 }
 
+std::size_t ZAMLightXmlElement::GetDocumentSize() const {
+    return _Document ? _Document->GetSize() : 0;
+}
+
 std::uint32_t ZAMLightXmlElement::GetLine() const {
     return _Document ? _Document->GetNode(_Node).line : 0;
 }

@@ -30,6 +30,7 @@ public:
     [[nodiscard]] ZAMUnicodeString GetTextContent() const override;
     [[nodiscard]] ZAMLightXmlPosition GetFirstTextPosition() const override;
     [[nodiscard]] TextRun GetNextText(ZAMLightXmlPosition& position) const override;
+    [[nodiscard]] std::size_t GetDocumentSize() const override;
     [[nodiscard]] std::uint32_t GetLine() const override;
     [[nodiscard]] std::uint32_t GetColumn() const override;
 

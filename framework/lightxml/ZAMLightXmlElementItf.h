@@ -59,6 +59,9 @@ public:
     /// The run at `position`, which moves on to the next one. An empty run when `position` is 0.
     [[nodiscard]] virtual TextRun GetNextText(ZAMLightXmlPosition& position) const = 0;
 
+    /// The bytes of all names, values and character data of the document that the element belongs to.
+    [[nodiscard]] virtual std::size_t GetDocumentSize() const = 0;
+
     /// Where the element's start tag stands in the document, from 1; 0 when unknown. Columns count characters.
     [[nodiscard]] virtual std::uint32_t GetLine() const = 0;
     [[nodiscard]] virtual std::uint32_t GetColumn() const = 0;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "framework/lightxml/ZAMLightXmlParser.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "framework/lightxml/ZAMLightXmlDocument.h"
 #include "framework/lightxml/ZAMLightXmlEncoding.h"
 
 #include <algorithm>
+#include <cstring>
 #include <expat.h>
-#include <limits>
 #include <memory>
 #include <new>
 
@@ -21,7 +22,7 @@ using ParserHandle = std::unique_ptr<std::remove_pointer_t<XML_Parser>, ParserDe
 // parser and leaves the reason here.
 class ParseRun {
 public:
-    explicit ParseRun(XML_Parser parser) : _Parser(parser) {
+    ParseRun(XML_Parser parser, std::size_t mostElements) : _Parser(parser), _ElementsLeft(mostElements) {
         XML_SetUserData(parser, this);
         XML_SetElementHandler(parser, &OnStart, &OnEnd);
         XML_SetCharacterDataHandler(parser, &OnText);
@@ -29,7 +30,7 @@ public:
     }
 
     bool Run(std::span<const char> bytes) {
-        if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        if (bytes.size() > ZAMLimits::kInputBytes) {
             Stop("the document is larger than 2 GiB");
             return false;
         }
@@ -77,14 +78,40 @@ private:
     }
 
     void Start(const char* name, const char** attributes) {
-        if (_Document->GetOpenCount() == static_cast<std::size_t>(kZAMLightXmlMaximumDepth)) {
+        if (_Document->GetOpenCount() == static_cast<std::size_t>(ZAMLimits::kElementDepth)) {
             Stop("elements are nested more than 256 deep");
             return;
         }
+        if (_ElementsLeft-- == 0) {
+            Stop("the document has too many elements");
+            return;
+        }
         _Document->OpenElement(name, GetLine(), GetColumn());
+        AddAttributes(attributes);
+    }
+
+    void AddAttributes(const char** attributes) {
+        const char** const end = attributes + 2 * ZAMLimits::kAttributesOfElement;
+        const char** const defaulted = attributes + XML_GetSpecifiedAttributeCount(_Parser);
         for (; *attributes != nullptr; attributes += 2) {
+            if (attributes == end) {
+                Stop("an element has more than 4096 attributes");
+                return;
+            }
+            if (attributes >= defaulted && !Pays(std::strlen(attributes[0]) + std::strlen(attributes[1]))) {
+                Stop("the document type adds too many attributes");
+                return;
+            }
             _Document->AddAttribute(attributes[0], attributes[1]);
         }
+    }
+
+    // For an attribute that the element does not spell out, of so many bytes.
+    bool Pays(std::size_t bytes) {
+        const std::size_t cost = bytes + sizeof(ZAMLightXmlDocument::Attribute);
+        const bool isEnough = cost <= _DefaultedBytesLeft;
+        _DefaultedBytesLeft -= isEnough ? cost : 0;
+        return isEnough;
     }
 
     // The place is taken here: expat goes on to the end of the tag before it stops.
@@ -104,6 +131,8 @@ private:
 
     XML_Parser _Parser;
     std::shared_ptr<ZAMLightXmlDocument> _Document = std::make_shared<ZAMLightXmlDocument>();
+    std::size_t _ElementsLeft;
+    std::size_t _DefaultedBytesLeft = ZAMLimits::kDefaultedBytes;
     const char* _Failure = nullptr;
     std::uint32_t _FailureLine = 0;
     std::uint32_t _FailureColumn = 0;
@@ -118,7 +147,7 @@ int ZAMLightXmlParser::Parse(const ZAMLightXmlInputStream& stream, ZAMLightXmlEl
         return -1;
     }
     try {
-        ParseRun run(parser.get());
+        ParseRun run(parser.get(), _MostElements);
         const bool complete = run.Run(stream.GetBytes());
         root = run.GetDocument()->IsEmpty() ? ZAMLightXmlElement() : ZAMLightXmlElement(run.GetDocument(), 0);
         _Error = complete ? ZAMLightXmlError() : run.GetError();

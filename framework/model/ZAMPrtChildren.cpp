@@ -41,7 +41,7 @@ void ZAMPrtChildren::Add(const ZAMPrtGraphicPrimitiveElt& owner, ZAMPrtGraphicPr
         return;
     }
     Inspection inspection(owner, child->_WasAttached);
-    if (inspection.Passes(*child, kZAMPrtMaximumHeight) && ZAMAllocationBudget::Spend(inspection.GetCost())) {
+    if (inspection.Passes(*child, ZAMLimits::kModelHeight) && ZAMAllocationBudget::Spend(inspection.GetCost())) {
         if (_Children.capacity() == 0) {
             _Children.reserve(kFewChildren);
         }

@@ -2,20 +2,18 @@
 #pragma once
 
 #include "framework/base/ZAMExport.h"
+#include "framework/base/ZAMLimits.h"
 #include "framework/base/ZAMRef.h"
 #include "framework/model/ZAMPrtGraphicPrimitiveElt.h"
 
 #include <vector>
 
-/// A child whose subtree is higher than this is refused, so that walking a model needs a small stack.
-inline constexpr int kZAMPrtMaximumHeight = 256;
-
 /// The ordered children of a container.
 class ZAM_EXPORT ZAMPrtChildren {
 public:
     /// Appends `child` to the children of `owner` and takes a reference. Ignores null, the owner itself, a child whose
-    /// subtree holds the owner, and a child whose subtree is more than kZAMPrtMaximumHeight high (a lone element is 1
-    /// high). The same child may be added more than once; what was attached before costs the thread's
+    /// subtree holds the owner, and a child whose subtree is more than ZAMLimits::kModelHeight high (a lone element is
+    /// 1 high). The same child may be added more than once; what was attached before costs the thread's
     /// ZAMAllocationBudget what its subtree costs, and is ignored when that is too much.
     void Add(const ZAMPrtGraphicPrimitiveElt& owner, ZAMPrtGraphicPrimitiveElt* child);
     /// Removes the first occurrence of `child` and gives its reference back; ignores what is not a child.

@@ -37,8 +37,7 @@ public:
     }
 
     [[nodiscard]] std::size_t GetCost() const override {
-        constexpr std::size_t kBytesForOne = 256;
-        return 1 + GetText().size() / kBytesForOne;
+        return 1 + GetText().size() / ZAMLimits::kBytesForOne;
     }
 
 private:

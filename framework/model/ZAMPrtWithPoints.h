@@ -27,8 +27,7 @@ public:
     [[nodiscard]] std::span<const ZAMMathPoint2D> GetPoints() const { return {_Points.get(), _Count}; }
 
     [[nodiscard]] std::size_t GetCost() const override {
-        constexpr std::size_t kPointsForOne = 32;
-        return 1 + GetPoints().size() / kPointsForOne;
+        return 1 + GetPoints().size() / ZAMLimits::kPointsForOne;
     }
 
 private:

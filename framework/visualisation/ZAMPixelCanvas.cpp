@@ -5,7 +5,7 @@
 
 std::uint32_t* ZAMPixelCanvas::Begin(std::uint32_t width, std::uint32_t height) noexcept {
     const std::uint64_t count = std::uint64_t{width} * height;
-    if (count == 0 || count > ZAMPixelImage::kMostPixels || !ZAMAllocationBudget::SpendPixels(count)) {
+    if (count == 0 || count > ZAMLimits::kPicturePixels || !ZAMAllocationBudget::SpendPixels(count)) {
         return nullptr;
     }
     _Width = static_cast<int>(width);

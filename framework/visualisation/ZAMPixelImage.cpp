@@ -32,7 +32,7 @@ ZAMPixelImage::~ZAMPixelImage() = default;
 ZAMRef<ZAMPixelImage> ZAMPixelImage::CreateFromFile(const ZAMString& fileName, ZAMReadOnlyState state,
                                                     int /*reserved*/) {
     Bytes bytes;
-    if (ZAMReadFile(fileName, kMostFileBytes, bytes) < 0) {
+    if (ZAMReadFile(fileName, ZAMLimits::kPictureBytes, bytes) < 0) {
         return {};
     }
     // Each of them looks at the first bytes first.

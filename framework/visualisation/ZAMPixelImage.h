@@ -20,11 +20,6 @@ class ZAM_EXPORT ZAMPixelImage : public ZAMBaseUnknown {
 public:
     using Bytes = std::vector<unsigned char>;
 
-    /// No larger picture is read: 512 MiB of pixels.
-    static constexpr std::size_t kMostPixels = std::size_t{1} << 27U;
-    /// No larger file is read.
-    static constexpr std::size_t kMostFileBytes = std::size_t{1} << 29U;
-
     /// `pixels` are width × height, the top row first, each 0xAARRGGBB with the colours multiplied by the alpha. `jpeg`
     /// is the JPEG file (ISO/IEC 10918-1) that they come from, or null. The sides are positive.
     ZAMPixelImage(int width, int height, std::unique_ptr<std::uint32_t[]> pixels,

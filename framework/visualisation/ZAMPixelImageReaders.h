@@ -8,7 +8,7 @@
 
 /// @file
 /// The readers of pictures in memory. Each gives null for what is not its format, is damaged or cut short, has more
-/// than ZAMPixelImage::kMostPixels or more than the thread's ZAMAllocationBudget has left, and when memory is out.
+/// than ZAMLimits::kPicturePixels or more than the thread's ZAMAllocationBudget has left, and when memory is out.
 /// Bytes behind the end of the picture do not matter. No exception leaves them, and nothing is loaded for other
 /// formats.
 

@@ -202,7 +202,9 @@ bool ZAMPrintCairoCanvas::IsMuchWork(double reach) const {
         edgeRows += std::min(std::abs(point.y - previous) + reach, rows);
         previous = point.y;
     }
-    return _Kind == Kind::Picture && edgeRows > ZAMPrintCairoLimits::kMostEdgeRows;
+    const double edgePairs = edgeRows / std::max(rows, 1.0) * edgeRows;
+    return _Kind == Kind::Picture &&
+           (edgeRows > ZAMPrintCairoLimits::kMostEdgeRows || edgePairs > ZAMPrintCairoLimits::kMostEdgePairs);
 }
 
 /// Makes the path the context's, so that its interior is right wherever the page is.

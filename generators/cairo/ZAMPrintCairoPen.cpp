@@ -119,7 +119,7 @@ void ZAMPrintCairoPen::Stroke(cairo_t* context, double walked) const {
 }
 
 void ZAMPrintCairoPen::ReadDashes(std::span<const float> dashes, double scale) {
-    const bool isSound = dashes.size() <= ZAMPrintCairoLimits::kMostDashes &&
+    const bool isSound = dashes.size() <= ZAMLimits::kDashes &&
                          std::all_of(dashes.begin(), dashes.end(), [](float dash) { return dash >= 0.0F; });
     if (!isSound) {
         return;

@@ -26,6 +26,15 @@ void Write(const ZAMPrepressElement& element, ZAMLightXmlDocument& document) {
     document.CloseElement();
 }
 
+// The texts are shared, but whoever reads the document reads those of each copy.
+std::size_t CostOf(const ZAMPrepressElement& element) {
+    std::size_t bytes = element.text.size();
+    for (const ZAMPrepressElement::Attribute& attribute : element.attributes) {
+        bytes += attribute.value.size();
+    }
+    return 1 + bytes / ZAMLimits::kBytesForOne;
+}
+
 } // namespace
 
 ZAMPrepressTree::ZAMPrepressTree(const ZAMLightXmlElementItf& root) {
@@ -73,7 +82,7 @@ ZAMPrepressElement& ZAMPrepressTree::NewElement(std::string_view name) {
 }
 
 ZAMPrepressElement* ZAMPrepressTree::Copy(const ZAMPrepressElement& element) {
-    if (!ZAMAllocationBudget::Spend(1)) {
+    if (!ZAMAllocationBudget::Spend(CostOf(element))) {
         return nullptr;
     }
     ZAMPrepressElement& copy = NewElement(element.name);

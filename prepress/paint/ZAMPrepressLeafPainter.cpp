@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/paint/ZAMPrepressLeafPainter.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "prepress/document/ZAMPrepressElementNames.h"
 #include "prepress/geometry/ZAMPrepressViewport.h"
 #include "prepress/paint/ZAMPrepressLeafSpace.h"
@@ -13,10 +14,6 @@
 #include <cmath>
 
 namespace {
-
-// Of patterns whose content is filled with patterns; what is deeper is left unpainted, and so is a pattern within
-// itself.
-constexpr std::size_t kDeepestPattern = 16;
 
 constexpr ZAMMathBox2D kUnitBox{0.0, 0.0, 1.0, 1.0};
 constexpr std::string_view kNone = "none";
@@ -144,7 +141,7 @@ bool ZAMPrepressLeafPainter::Fill(ZAMPrepressElement& server, const ZAMPrepressF
 
 bool ZAMPrepressLeafPainter::FillWithPattern(ZAMPrepressElement& server, const ZAMPrepressFilledLeaf& leaf) {
     const auto pattern = ZAMPrepressVectorPattern::Read(ZAMPrepressServer(server, _Ids, _Viewport), leaf.box);
-    if (!pattern || _OpenContents.size() >= kDeepestPattern ||
+    if (!pattern || _OpenContents.size() >= ZAMLimits::kPatternDepth ||
         std::ranges::find(_OpenContents, pattern->content) != _OpenContents.end()) {
         return false;
     }

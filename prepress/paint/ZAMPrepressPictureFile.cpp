@@ -3,6 +3,7 @@
 
 #include "framework/base/ZAMFile.h"
 #include "framework/base/ZAMFilePath.h"
+#include "framework/base/ZAMLimits.h"
 #include "prepress/paint/ZAMPrepressDataReference.h"
 
 #include <utility>
@@ -10,12 +11,11 @@
 
 namespace {
 
-constexpr std::size_t kMostBytes = std::size_t{1} << 28U; // more than that nobody prints
-
 std::optional<std::string> Read(std::string_view path) {
     std::vector<unsigned char> bytes;
-    return ZAMReadFile(path, kMostBytes, bytes) == 0 ? std::optional(std::string(bytes.begin(), bytes.end()))
-                                                     : std::nullopt;
+    return ZAMReadFile(path, ZAMLimits::kCopiedPictureBytes, bytes) == 0
+               ? std::optional(std::string(bytes.begin(), bytes.end()))
+               : std::nullopt;
 }
 
 std::optional<std::string> ReadHereOrBeside(std::string_view name, std::string_view documentPath) {

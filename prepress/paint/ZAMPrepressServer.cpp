@@ -1,23 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/paint/ZAMPrepressServer.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "prepress/geometry/ZAMPrepressTransform.h"
 
 #include <algorithm>
 
-namespace {
-
-// Links may go in circles, and a document may chain each of its gradients to the one before.
-constexpr std::size_t kLongestChain = 64;
-
-} // namespace
+namespace {} // namespace
 
 ZAMPrepressServer::ZAMPrepressServer(ZAMPrepressElement& element, const ZAMPrepressIds& ids,
                                      const ZAMPrepressViewportSize& viewport)
     : _Viewport(viewport) {
     ZAMPrepressElement* next = &element;
     while (next != nullptr && IsServer(*next) && IsGradient(*next) == IsGradient(element) &&
-           _Elements.size() < kLongestChain && std::ranges::find(_Elements, next) == _Elements.end()) {
+           _Elements.size() < ZAMLimits::kChainOfServers && std::ranges::find(_Elements, next) == _Elements.end()) {
         _Elements.push_back(next);
         next = ids.FindLink(next->Get("xlink:href"));
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/paint/ZAMPrepressTileBook.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "prepress/geometry/ZAMPrepressLength.h"
 #include "prepress/geometry/ZAMPrepressNumberText.h"
 #include "prepress/paint/ZAMPrepressBase64.h"
@@ -11,9 +12,6 @@
 
 namespace {
 
-// All pictures of a drawing together: they are held and printed with four bytes each. Where there are too many the
-// largest are made of fewer.
-constexpr std::size_t kMostPixels = 12'000'000;
 constexpr std::size_t kFewestPixels = 8 * 8;
 // All drawings of tiles together: what takes some seconds to draw.
 constexpr std::size_t kMostElements = 300'000;
@@ -73,7 +71,7 @@ std::size_t ZAMPrepressTileBook::FindMostPixels() const {
         counts.push_back(entry.tile.pixels.GetCount());
     }
     std::ranges::sort(counts);
-    std::size_t pixelsLeft = kMostPixels;
+    std::size_t pixelsLeft = ZAMLimits::kPaintPixels;
     std::size_t tilesLeft = counts.size();
     for (const std::size_t count : counts) {
         const std::size_t share = std::max(kFewestPixels, pixelsLeft / tilesLeft);
@@ -83,7 +81,7 @@ std::size_t ZAMPrepressTileBook::FindMostPixels() const {
         pixelsLeft -= std::min(count, pixelsLeft);
         --tilesLeft;
     }
-    return kMostPixels;
+    return ZAMLimits::kPaintPixels;
 }
 
 // To find out that there are too many costs something as well, so that nothing is drawn after that.

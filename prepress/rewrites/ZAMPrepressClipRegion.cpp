@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/rewrites/ZAMPrepressClipRegion.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "prepress/geometry/ZAMPrepressGeometryBox.h"
 #include "prepress/paint/ZAMPrepressLeafSpace.h"
 #include "prepress/rewrites/ZAMPrepressClipOutline.h"
@@ -8,9 +9,6 @@
 #include <utility>
 
 namespace {
-
-// Clipping paths that are clipped themselves: a circle of them ends here.
-constexpr int kMaximumChain = 8;
 
 constexpr ZAMMathBox2D kNothing{0.0, 0.0, 0.0, 0.0};
 
@@ -63,7 +61,7 @@ const ZAMPrepressClipRegion::Clip& ZAMPrepressClipRegion::Read(const ZAMPrepress
 std::optional<ZAMMathBox2D> ZAMPrepressClipRegion::BoxFor(const ZAMPrepressElement& bearer,
                                                           const ZAMPrepressElement& clipped, int depth) {
     const ZAMPrepressElement* const path = FindPath(_Ids, bearer);
-    const auto units = path == nullptr || depth == kMaximumChain ? std::nullopt : UnitsOf(*path, clipped);
+    const auto units = path == nullptr || depth == ZAMLimits::kClipDepth ? std::nullopt : UnitsOf(*path, clipped);
     if (!units) {
         return std::nullopt;
     }

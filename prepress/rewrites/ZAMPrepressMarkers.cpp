@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/rewrites/ZAMPrepressMarkers.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "prepress/document/ZAMPrepressElementNames.h"
 #include "prepress/geometry/ZAMPrepressDrawnBox.h"
 #include "prepress/rewrites/ZAMPrepressMarkerCopies.h"
@@ -22,8 +23,6 @@ constexpr std::array<std::string_view, kPlaces> kProperties{"marker-start", "mar
 constexpr std::string_view kShapes[] = {"path", "line", "polyline", "polygon"};
 // What a group of markers has in common with the shape that they stand on.
 constexpr std::string_view kShared[] = {"transform", "clip-path", "mask", "filter"};
-// Markers on the shapes of markers, and so on. Drawings know one level; a chain of markers must not fill the stack.
-constexpr int kMostLevels = 8;
 
 using Marker = ZAMPrepressMarker;
 using Markers = std::array<Marker*, kPlaces>; // null where there is none
@@ -166,7 +165,7 @@ Marker* Drawing::FindMarker(std::string_view reference) {
 
 // A marker may have shapes with markers. One that comes back to itself is not drawn there.
 Marker* Drawing::ReadMarker(ZAMPrepressElement& element) {
-    if (!element.Is(kMarker) || _Level == kMostLevels) {
+    if (!element.Is(kMarker) || _Level == ZAMLimits::kMarkerDepth) {
         return nullptr;
     }
     const auto [known, isNew] = _Markers.try_emplace(&element);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/rewrites/ZAMPrepressPictures.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "prepress/document/ZAMPrepressClipPaths.h"
 #include "prepress/document/ZAMPrepressIds.h"
 #include "prepress/document/ZAMPrepressSearch.h"
@@ -110,9 +111,6 @@ private:
     std::unordered_map<std::string_view, Picture> _Pictures;
 };
 
-// Pictures within pictures: data within data.
-constexpr int kMaximumNesting = 8;
-
 void Rewriter::RewriteChildren(ZAMPrepressElement& element, int depth) {
     for (ZAMPrepressElement*& child : element.children) {
         if (child->Is(kImage)) {
@@ -157,7 +155,7 @@ void Rewriter::RewriteImage(ZAMPrepressElement*& image, int depth) {
     const Picture& picture = FindPicture(image->Get(kReference), depth);
     if (picture.header.format != Format::Svg) {
         PlaceBitmap(image, picture);
-    } else if (depth < kMaximumNesting && _Documents.Draw(*image, picture.document)) {
+    } else if (depth < ZAMLimits::kPictureDocumentDepth && _Documents.Draw(*image, picture.document)) {
         RewriteChildren(*image, depth + 1);
     }
 }

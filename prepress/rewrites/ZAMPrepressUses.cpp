@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/rewrites/ZAMPrepressUses.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "framework/lightxml/ZAMLightXmlParser.h"
 #include "prepress/document/ZAMPrepressElementNames.h"
 #include "prepress/document/ZAMPrepressIds.h"
@@ -19,8 +20,6 @@ constexpr std::string_view kUse = "use";
 constexpr std::string_view kSymbol = "symbol";
 constexpr std::string_view kSvg = "svg";
 constexpr std::string_view kReference = "xlink:href";
-// As deep as documents may be: reuse makes them no deeper.
-constexpr int kMaximumDepth = kZAMLightXmlMaximumDepth;
 
 // What definitions hold is drawn where it is used, but for these, whose content is drawn through properties.
 constexpr std::string_view kDrawnThroughProperties[] = {"clipPath", "marker", "mask", "pattern"};
@@ -76,7 +75,7 @@ private:
 };
 
 void Expansion::Expand(ZAMPrepressElement& element, int depth, bool isDrawn) {
-    if (depth >= kMaximumDepth) {
+    if (depth >= ZAMLimits::kUseDepth) {
         element.children.clear();
         return;
     }

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/style/ZAMPrepressRuleMatcher.h"
 
+#include "framework/base/ZAMLimits.h"
+
 #include <algorithm>
 
 namespace {
 
-// Ends the work on documents in which every element meets thousands of selectors or declarations; drawings need a
-// hundredth of it. A step whose ancestor is not there costs next to nothing, anything else about ten times as much.
-constexpr std::size_t kMostWork = 20'000'000;
-constexpr std::size_t kMostWorkForEachElement = 1'000;
+// A step whose ancestor is not there costs next to nothing, anything else about ten times as much.
 constexpr std::size_t kTestWork = 10;
 
 // What tests of attributes may take in all, where these are long.
@@ -29,7 +28,7 @@ void MakeSet(std::vector<std::uint32_t>& states) {
 } // namespace
 
 ZAMPrepressRuleMatcher::ZAMPrepressRuleMatcher(const ZAMPrepressRules& rules)
-    : _Rules(rules), _Levels(1), _OpenCounts(rules.GetStateCount()), _WorkLeft(kMostWork) {}
+    : _Rules(rules), _Levels(1), _OpenCounts(rules.GetStateCount()), _WorkLeft(ZAMLimits::kSheetWork) {}
 
 bool ZAMPrepressRuleMatcher::Holds(const ZAMPrepressRules::State& state, const ZAMPrepressSubject& subject) const {
     const Level& parent = _Levels.back();
@@ -98,7 +97,7 @@ void ZAMPrepressRuleMatcher::Test(std::span<const std::uint32_t> states, const Z
 std::span<const std::uint32_t> ZAMPrepressRuleMatcher::Enter(const ZAMPrepressSubject& subject) {
     Level level;
     _Matched.clear();
-    _WorkLeft += kMostWorkForEachElement;
+    _WorkLeft += ZAMLimits::kSheetWorkForEachElement;
     _Rules.VisitCandidates(subject, [&](const ZAMPrepressRules::File& file) { Meet(file, subject, level.own); });
     MakeSet(level.own);
     MakeSet(_Matched);

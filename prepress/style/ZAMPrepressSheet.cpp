@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/style/ZAMPrepressSheet.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "prepress/style/ZAMPrepressCssTokenizer.h"
 #include "prepress/style/ZAMPrepressMedia.h"
 
 namespace {
 
 using Type = ZAMPrepressCssTokenType;
-
-// Each level of blocks is read again for itself: beyond this depth they are ignored.
-constexpr int kDeepestBlock = 8;
 
 class SheetReader {
 public:
@@ -48,7 +46,7 @@ private:
             return;
         }
         const std::string_view block = tokens.TakeBlock('}');
-        if (isMedia && depth < kDeepestBlock && ZAMPrepressMediaHolds(prelude)) {
+        if (isMedia && depth < ZAMLimits::kSheetDepth && ZAMPrepressMediaHolds(prelude)) {
             Read(block, depth + 1);
         }
     }

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "prepress/style/ZAMPrepressVariables.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "prepress/style/ZAMPrepressCssEscapes.h"
 #include "prepress/style/ZAMPrepressCssTokenizer.h"
 #include "prepress/style/ZAMPrepressProperties.h"
 
 namespace {
 
-// A variable that refers to itself gets deeper than any honest one; those that refer to empty ones many times over
-// would never end.
-constexpr int kDeepestReference = 8;
+// Variables that refer to empty ones many times over would never end, within any depth.
 constexpr int kMostReferences = 100;
 constexpr std::string_view kReference = "var(";
 
@@ -28,6 +27,9 @@ void ZAMPrepressVariables::Pop(const Definitions& definitions) {
 }
 
 std::optional<std::string> ZAMPrepressVariables::Substitute(std::string_view value) const {
+    if (value.size() > kZAMPrepressLongestValue) {
+        return std::nullopt; // as any other value of that length: its brackets would be looked through at each level
+    }
     Substitution substitution{{}, kMostReferences};
     return Append(value, 0, substitution) ? std::optional(std::move(substitution.text)) : std::nullopt;
 }
@@ -36,7 +38,7 @@ bool ZAMPrepressVariables::Append(std::string_view value, int depth, Substitutio
     for (;;) {
         const std::string_view plain = value.substr(0, value.find(kReference));
         substitution.text.append(plain);
-        if (depth > kDeepestReference || substitution.text.size() > kZAMPrepressLongestValue) {
+        if (depth > ZAMLimits::kVariableDepth || substitution.text.size() > kZAMPrepressLongestValue) {
             return false;
         }
         if (plain.size() == value.size()) {

@@ -31,16 +31,18 @@ TEST(Prepare, TooMuchReuseLeavesEmptyPages) {
     }
 }
 
-// 14 elements, which give 140, become 8 rectangles and as many groups as are between them and the root.
-TEST(Prepare, WhatIsReadMayBeReused) {
-    const ZAMAllocationBudget budget(0);
-    const std::string xml = ToXml(ZAMPrepress::Prepare(ParseDocument(Doubling(3))));
-    std::size_t rectangles = 0;
-    for (std::size_t at = 0; (at = xml.find("<rect", at)) != std::string::npos; ++at) {
-        ++rectangles;
+// 8 rectangles and as many groups as are between them and the root, or nothing at all.
+TEST(Prepare, WhatIsReusedIsCharged) {
+    for (const std::size_t elements : {100U, 10U}) {
+        const ZAMAllocationBudget budget(elements);
+        const std::string xml = ToXml(ZAMPrepress::Prepare(ParseDocument(Doubling(3))));
+        std::size_t rectangles = 0;
+        for (std::size_t at = 0; (at = xml.find("<rect", at)) != std::string::npos; ++at) {
+            ++rectangles;
+        }
+        EXPECT_EQ(rectangles, elements == 100 ? 8U : 0U);
+        EXPECT_EQ(budget.IsSpent(), elements == 10);
     }
-    EXPECT_EQ(rectangles, 8U);
-    EXPECT_FALSE(budget.IsSpent());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/common/Document.h"
 
+#include "framework/base/ZAMAllocationBudget.h"
 #include "framework/base/ZAMTextCompare.h"
 #include "framework/lightxml/ZAMLightXmlInputStreamBuffer.h"
 #include "framework/lightxml/ZAMLightXmlParser.h"
@@ -10,6 +11,7 @@
 #include "tools/common/Options.h"
 #include "tools/common/TileRenderer.h"
 
+#include <limits>
 #include <sstream>
 
 namespace {
@@ -39,9 +41,9 @@ std::string CollapseWhiteSpace(const std::string& text) {
 
 } // namespace
 
-Document::Document(const std::string& file, bool isPrepared)
-    : _Name(GetInputName(file)), _Path(PathOf(file)), _Root(Read(file)) {
-    if (isPrepared) {
+Document::Document(const std::string& file, const Options& options)
+    : _Name(GetInputName(file)), _Path(PathOf(file)), _Root(Read(file, options)) {
+    if (options.isPrepared) {
         TileRenderer renderer(_Path);
         _Root = ZAMPrepress::Prepare(_Root, &renderer, _Path);
     }
@@ -59,12 +61,16 @@ std::string Document::PathOf(const std::string& file) {
     return file == kStandardStream ? std::string() : file;
 }
 
-ZAMLightXmlElement Document::Read(const std::string& file) {
-    const std::string content = ReadInputFile(file);
+ZAMLightXmlElement Document::Read(const std::string& file, const Options& options) {
+    const std::string content = ReadInputFile(file, options.isUnlimited);
+    ZAMAllocationBudget::Earn(content.size());
     const ZAMLightXmlInputStreamBuffer stream(reinterpret_cast<const unsigned char*>(content.data()),
                                               static_cast<int>(content.size()));
     ZAMLightXmlElement root;
     ZAMLightXmlParser parser;
+    if (options.isUnlimited) {
+        parser.SetMostElements(std::numeric_limits<std::size_t>::max());
+    }
     if (parser.Parse(stream, root) != 1) {
         const ZAMLightXmlError& error = parser.GetError();
         throw Failure(ExitStatus::Failed, GetInputName(file) + ":" + std::to_string(error.line) + ":" +

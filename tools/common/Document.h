@@ -2,6 +2,7 @@
 #pragma once
 
 #include "framework/lightxml/ZAMLightXmlElement.h"
+#include "tools/zamprint/Options.h"
 
 #include <string>
 #include <vector>
@@ -11,9 +12,9 @@ class Document {
 public:
     /// Reads and parses a file, or standard input for "-". Throws a Failure when it cannot be read, is no well-formed
     /// XML, or holds no drawing. A prepared document says the same in words that the interpreter draws rightly.
-    Document(const std::string& file, bool isPrepared);
+    Document(const std::string& file, const Options& options);
     /// Only reads and parses, whatever the document holds. Throws a Failure when that cannot be done.
-    static ZAMLightXmlElement Read(const std::string& file);
+    static ZAMLightXmlElement Read(const std::string& file, const Options& options);
 
     /// Where the relative references of a document in that file start from; empty for standard input.
     [[nodiscard]] static std::string PathOf(const std::string& file);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/common/Inflate.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "tools/common/Failure.h"
 
 #include <algorithm>
@@ -11,8 +12,6 @@
 
 namespace {
 
-constexpr std::size_t kMostBytes = std::size_t{512} << 20U;
-
 [[noreturn]] void Fail(const std::string& name, const char* reason) {
     throw Failure(ExitStatus::Failed, name + ": " + reason);
 }
@@ -20,7 +19,10 @@ constexpr std::size_t kMostBytes = std::size_t{512} << 20U;
 // One after the other, the members of a gzip file.
 class Inflater {
 public:
-    Inflater(std::string_view bytes, const std::string& name) : _Bytes(bytes), _Name(name) {
+    Inflater(std::string_view bytes, const std::string& name, bool isUnlimited)
+        : _Bytes(bytes), _Name(name), _MostBytes(isUnlimited ? ZAMLimits::kInputBytes : ZAMLimits::kInflatedBytes),
+          _MostByRatio(isUnlimited ? _MostBytes
+                                   : std::max(ZAMLimits::kInflateFreeBytes, bytes.size() * ZAMLimits::kInflateRatio)) {
         constexpr int kGzipOnly = 16;
         if (inflateInit2(&_Stream, MAX_WBITS + kGzipOnly) != Z_OK) {
             throw std::bad_alloc();
@@ -43,11 +45,20 @@ private:
     void ReadMember(std::string& content) {
         for (int status = Z_OK; status != Z_STREAM_END;) {
             const std::size_t size = content.size();
-            content.resize(std::clamp<std::size_t>(2 * size, 65536, kMostBytes + 1));
+            content.resize(std::clamp<std::size_t>(2 * size, 65536, std::min(_MostBytes, _MostByRatio) + 1));
             status = Inflate(content, size);
-            if (content.size() > kMostBytes) {
-                Fail(_Name, "holds more than 512 MiB when it is decompressed");
-            }
+            CheckSize(content.size());
+        }
+    }
+
+    void CheckSize(std::size_t size) const {
+        if (size > _MostBytes) {
+            Fail(_Name, _MostBytes == ZAMLimits::kInputBytes ? "holds more than 2 GiB when it is decompressed"
+                                                             : "holds more than 512 MiB when it is decompressed; "
+                                                               "--unlimited reads it");
+        }
+        if (size > _MostByRatio) {
+            Fail(_Name, "holds more than 200 times its size when it is decompressed; --unlimited reads it");
         }
     }
 
@@ -74,6 +85,8 @@ private:
     z_stream _Stream{};
     std::string_view _Bytes; // that are still to be read
     const std::string& _Name;
+    std::size_t _MostBytes;
+    std::size_t _MostByRatio;
 };
 
 } // namespace
@@ -83,6 +96,6 @@ bool IsCompressed(std::string_view bytes) {
     return bytes.starts_with(kStart);
 }
 
-std::string Inflate(std::string_view bytes, const std::string& name) {
-    return Inflater(bytes, name).Run();
+std::string Inflate(std::string_view bytes, const std::string& name, bool isUnlimited) {
+    return Inflater(bytes, name, isUnlimited).Run();
 }

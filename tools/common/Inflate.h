@@ -8,5 +8,5 @@
 [[nodiscard]] bool IsCompressed(std::string_view bytes);
 
 /// The content of a gzip file, of one member or more. Throws a Failure, with `name` in it, when the bytes are damaged
-/// or cut short, or hold more than 512 MiB: a thousand times what they are, at the most, and more than any drawing.
-[[nodiscard]] std::string Inflate(std::string_view bytes, const std::string& name);
+/// or cut short, or hold more than ZAMLimits allow; those of the unlimited only when `isUnlimited`.
+[[nodiscard]] std::string Inflate(std::string_view bytes, const std::string& name, bool isUnlimited);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/common/InputFile.h"
 
+#include "framework/base/ZAMLimits.h"
 #include "tools/common/Failure.h"
 #include "tools/common/FileDescriptor.h"
 #include "tools/common/Inflate.h"
@@ -10,14 +11,12 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
-#include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-// The XML parser counts bytes with an int.
-constexpr std::size_t kLargestInput = std::numeric_limits<int>::max();
+constexpr std::size_t kLargestInput = ZAMLimits::kInputBytes;
 
 int Open(const std::string& file) {
     return file == kStandardStream ? fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)
@@ -69,11 +68,11 @@ void RefuseOwnInput(const std::string& input, const std::string& output) {
     }
 }
 
-std::string ReadInputFile(const std::string& file) {
+std::string ReadInputFile(const std::string& file, bool isUnlimited) {
     const FileDescriptor descriptor(Open(file));
     std::string content;
     if (const int error = descriptor.Get() < 0 ? errno : ReadAll(descriptor.Get(), content); error != 0) {
         throw Failure::OfFile(GetInputName(file), error);
     }
-    return IsCompressed(content) ? Inflate(content, GetInputName(file)) : content;
+    return IsCompressed(content) ? Inflate(content, GetInputName(file), isUnlimited) : content;
 }

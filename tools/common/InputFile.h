@@ -11,5 +11,5 @@ std::string GetInputName(const std::string& file);
 void RefuseOwnInput(const std::string& input, const std::string& output);
 
 /// The whole content of a file, or of standard input for "-". Throws a Failure when it cannot be read to its end. What
-/// is compressed is decompressed.
-std::string ReadInputFile(const std::string& file);
+/// is compressed is decompressed; `isUnlimited` as Inflate has it.
+std::string ReadInputFile(const std::string& file, bool isUnlimited);

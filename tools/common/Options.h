@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -36,9 +37,10 @@ struct Options {
     double resolution = 90.0;     ///< pixels to the inch
     std::optional<ZAMPrintColour> background;
     AllowedFiles allowedFiles = AllowedFiles::Document;
-    std::size_t mostElements = ZAMAllocationBudget::kElements; ///< that are reused, besides 10 for each that is read
-    bool isPrepared = true;                                    ///< documents are rewritten before they are interpreted
-    std::optional<std::string> title;                          ///< else the document's
+    std::size_t mostElements = ZAMLimits::kReusedElements; ///< that are reused, and more in large documents
+    bool isUnlimited = false;                              ///< limits that protect time and memory are lifted
+    bool isPrepared = true;                                ///< documents are rewritten before they are interpreted
+    std::optional<std::string> title;                      ///< else the document's
     std::string author;
     std::size_t jobs = 0; ///< documents at once; 0 for as many as there are processors
     ProgressMode progress = ProgressMode::Auto;
@@ -46,6 +48,10 @@ struct Options {
     bool isStrict = false;  ///< a report with anything in it is a failure
     std::optional<std::string> information; ///< a text that is asked for instead of a print
     bool isQuiet = false;                   ///< no messages but errors, and no progress
+
+    [[nodiscard]] std::size_t GetMostPathCommands() const {
+        return isUnlimited ? std::numeric_limits<std::size_t>::max() : ZAMLimits::kPathCommands;
+    }
 
     /// The format asked for, else the one that the output's ending names, else PDF.
     [[nodiscard]] OutputFormat GetFormat() const {

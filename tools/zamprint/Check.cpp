@@ -109,7 +109,7 @@ std::unique_ptr<Report> MakeReport(const Options& options, std::ostream& out) {
 
 ZAMPrintSVGPreflight CheckOne(const std::string& input, const Options& options) {
     const ZAMAllocationBudget budget(options.mostElements);
-    const ZAMLightXmlElement root = Document::Read(input);
+    const ZAMLightXmlElement root = Document::Read(input, options);
     const std::string path = Document::PathOf(input);
     const ZAMFileAccessPolicy policy = MakePolicy(options.allowedFiles, path);
     ZAMPrintSVGPreflight preflight(options.isPrepared ? ZAMPrintSVGPreflight::Mode::Prepared

@@ -151,13 +151,14 @@ constexpr OptionRow kOptions[] = {
     {"--allow-files", "all|document|none",
      "The picture files that a document may read; without it, those in its folder and below", ReadAllowedFiles},
     {"--max-elements", "N",
-     "How many elements may be drawn by reuse; without it, 1000000, and always 10 more for each element of the "
+     "How many elements may be drawn by reuse; without it, 100000, and always one more for every 10 bytes of the "
      "document",
      ReadMostElements},
     {"--prepress", "on|off", "Rewrite the document into what is drawn rightly before it is read; on without it",
      ReadPrepress},
-    {"-u,--unlimited", nullptr, "Let a document reuse as many elements as it likes",
+    {"-u,--unlimited", nullptr, "Let a document take as much time and memory as it likes, in size and in what it reuses",
      [](std::string_view /*text*/, Options& options) {
+         options.isUnlimited = true;
          options.mostElements = std::numeric_limits<std::size_t>::max() / 2;
          return std::string();
      }},

@@ -31,6 +31,10 @@ ZAMPrintCairoGenerator::Format ToGeneratorFormat(OutputFormat format) {
 }
 
 void RefuseSpent(const Document& document, const ZAMAllocationBudget& budget) {
+    if (budget.HasLongPath()) {
+        throw Failure(ExitStatus::Failed,
+                      document.GetName() + ": has a path of more than 10000000 commands; --unlimited prints it");
+    }
     if (budget.IsSpent()) {
         throw Failure(ExitStatus::Failed,
                       document.GetName() + ": reuses too many elements; --max-elements N allows more");
@@ -40,8 +44,8 @@ void RefuseSpent(const Document& document, const ZAMAllocationBudget& budget) {
 void WriteJson(const std::string& input, const Options& options, std::ostream& out) {
     // Preparing a document reads pictures and reuses elements, too.
     const ZAMFileAccessPolicy policy = MakePolicy(options.allowedFiles, Document::PathOf(input));
-    const ZAMAllocationBudget budget(options.mostElements);
-    const Document document(input, options.isPrepared);
+    const ZAMAllocationBudget budget(options.mostElements, options.GetMostPathCommands());
+    const Document document(input, options);
     RefuseSpent(document, budget);
     const ZAMRef<ZAMPrtModel> model = ZAMNew<ZAMPrtModel>();
     if (!model) {
@@ -67,8 +71,8 @@ public:
     // Throws a Failure; GetError then says whether the output can go on.
     void Add(const std::string& input) {
         const ZAMFileAccessPolicy policy = MakePolicy(_Options.allowedFiles, Document::PathOf(input));
-        const ZAMAllocationBudget budget(_Options.mostElements);
-        const Document document(input, _Options.isPrepared);
+        const ZAMAllocationBudget budget(_Options.mostElements, _Options.GetMostPathCommands());
+        const Document document(input, _Options);
         if (!_Printer.Print(document, [&] { RefuseSpent(document, budget); })) {
             Fail(document.GetName());
         }

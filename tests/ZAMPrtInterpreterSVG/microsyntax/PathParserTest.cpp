@@ -42,6 +42,19 @@ TEST(PathParser, StraightRuns) {
     });
 }
 
+// The longest path is drawn whole; of a longer one nothing is made any more.
+TEST(PathParser, APathThatIsTooLongSpendsTheBudget) {
+    for (const char* data : {"M0 0L1 1L2 2Z", "M0 0 1 1 2 2 3 3", "ZZZZ"}) {
+        for (const std::size_t most : {4U, 3U}) {
+            const ZAMAllocationBudget budget(100, most);
+            ZAMPrintSVGPathParser parser;
+            const auto group = ZAMNew<ZAMPrtGroupElt>();
+            EXPECT_EQ(parser.ParsePathString(group.Get(), data), 1);
+            EXPECT_EQ(budget.HasLongPath(), most == 3) << data;
+        }
+    }
+}
+
 TEST(PathParser, TokensOfCoordinates) {
     CheckStroked({
         {"M10-20L30,40", "L 10,120 30,60"},

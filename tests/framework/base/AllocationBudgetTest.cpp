@@ -17,7 +17,7 @@ class Object : public ZAMBaseUnknown {};
 
 TEST(AllocationBudgetTest, WithoutOneNothingIsLimited) {
     EXPECT_EQ(ZAMAllocationBudget::GetCurrent(), nullptr);
-    ZAMAllocationBudget::Earn();
+    ZAMAllocationBudget::Earn(109);
     EXPECT_TRUE(ZAMAllocationBudget::Spend(kUnlimited));
     EXPECT_TRUE(ZAMAllocationBudget::Spend(kUnlimited));
     EXPECT_TRUE(ZAMAllocationBudget::SpendPixels(kUnlimited));
@@ -34,27 +34,27 @@ TEST(AllocationBudgetTest, OnceSpentItStaysSpent) {
     EXPECT_TRUE(ZAMAllocationBudget::Spend(0)); // it suffices as long as nobody asks for more
     EXPECT_FALSE(budget.IsSpent());
     EXPECT_TRUE(ZAMNew<Object>());
-    ZAMAllocationBudget::Earn();
+    ZAMAllocationBudget::Earn(109);
     EXPECT_EQ(ZAMAllocationBudget::GetLeft(), 10U);
     EXPECT_FALSE(ZAMAllocationBudget::Spend(11));
     EXPECT_TRUE(budget.IsSpent());
     EXPECT_EQ(ZAMAllocationBudget::GetLeft(), 0U);
     EXPECT_FALSE(ZAMNew<Object>());
-    ZAMAllocationBudget::Earn();
+    ZAMAllocationBudget::Earn(109);
     EXPECT_FALSE(ZAMAllocationBudget::Spend(0));
     EXPECT_TRUE(ZAMAllocationBudget::IsCurrentSpent());
 }
 
 TEST(AllocationBudgetTest, EarningEndsAtTheLargestNumber) {
     const ZAMAllocationBudget budget(kUnlimited - 1);
-    ZAMAllocationBudget::Earn();
+    ZAMAllocationBudget::Earn(109);
     EXPECT_EQ(ZAMAllocationBudget::GetLeft(), kUnlimited - 1);
 }
 
 TEST(AllocationBudgetTest, PicturesThatAreTooLargeSpendNothing) {
     const ZAMAllocationBudget budget(1);
-    EXPECT_FALSE(ZAMAllocationBudget::SpendPixels(ZAMAllocationBudget::kPixels + 1));
-    EXPECT_TRUE(ZAMAllocationBudget::SpendPixels(ZAMAllocationBudget::kPixels - 1));
+    EXPECT_FALSE(ZAMAllocationBudget::SpendPixels(ZAMLimits::kPicturePixelsOfAll + 1));
+    EXPECT_TRUE(ZAMAllocationBudget::SpendPixels(ZAMLimits::kPicturePixelsOfAll - 1));
     EXPECT_FALSE(ZAMAllocationBudget::SpendPixels(2));
     EXPECT_TRUE(ZAMAllocationBudget::SpendPixels(1));
     EXPECT_FALSE(budget.IsSpent());
@@ -73,4 +73,15 @@ TEST(AllocationBudgetTest, TheInnermostOfAThreadCounts) {
     EXPECT_FALSE(outer.IsSpent());
     EXPECT_EQ(ZAMAllocationBudget::GetLeft(), 5U);
     EXPECT_TRUE(ZAMNew<Object>());
+}
+
+TEST(AllocationBudgetTest, APathThatIsTooLongSpendsIt) {
+    EXPECT_EQ(ZAMAllocationBudget::GetMostPathCommands(), kUnlimited);
+    ZAMAllocationBudget::EndLongPath(); // nothing is there to be spent
+    const ZAMAllocationBudget budget(1, 7);
+    EXPECT_EQ(ZAMAllocationBudget::GetMostPathCommands(), 7U);
+    EXPECT_FALSE(budget.HasLongPath());
+    ZAMAllocationBudget::EndLongPath();
+    EXPECT_TRUE(budget.HasLongPath());
+    EXPECT_TRUE(budget.IsSpent());
 }

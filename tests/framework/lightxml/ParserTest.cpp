@@ -132,6 +132,20 @@ TEST(LightXmlTest, ErrorsHaveAPlaceAndKeepWhatWasRead) {
     EXPECT_EQ(deepest.result, 1) << deepest.error.reason;
 }
 
+TEST(LightXmlTest, ADocumentHasSoManyElementsAtMost) {
+    const std::string text = "<a><b/><c/></a>";
+    const ZAMLightXmlInputStreamBuffer stream(reinterpret_cast<const unsigned char*>(text.data()),
+                                              static_cast<int>(text.size()));
+    for (const std::size_t most : {3U, 2U}) {
+        ZAMLightXmlParser parser;
+        parser.SetMostElements(most);
+        ZAMLightXmlElement root;
+        EXPECT_EQ(parser.Parse(stream, root), most == 3 ? 1 : -1);
+        EXPECT_EQ(parser.GetError().reason, most == 3 ? "" : "the document has too many elements");
+        EXPECT_EQ(Dump(root), most == 3 ? "a{bc}" : "a{b}");
+    }
+}
+
 TEST(LightXmlTest, AParserAndAnElementServeAgain) {
     ZAMLightXmlParser parser;
     ZAMLightXmlElement root;
@@ -175,7 +189,7 @@ TEST(LightXmlTest, HugeDocumentsTakeLinearTime) {
     const std::string piece = "1.5,2.5 ";
     std::string manyAttributes = "<a";
     std::string laughs = "<!DOCTYPE a [<!ENTITY l0 'ha'>";
-    for (int i = 0; i < 100'000; ++i) {
+    for (std::size_t i = 0; i < ZAMLimits::kAttributesOfElement; ++i) {
         manyAttributes.append(" n").append(std::to_string(i)).append("='v'");
     }
     for (int i = 1; i < 30; ++i) {
@@ -191,7 +205,8 @@ TEST(LightXmlTest, HugeDocumentsTakeLinearTime) {
         {"<a b='" + Repeat(piece, 640'000) + "'/>", 1, 1, 5'120'000, 0},
         {"<a>" + Repeat(piece + "\n", 640'000) + "</a>", 1, 0, 0, 5'760'000},
         {"<a>" + Repeat(piece + "<b/>", 300'000) + "</a>", 1, 0, 0, 2'400'000},
-        {manyAttributes + "/>", 1, 100'000, 1, 0},
+        {manyAttributes + "/>", 1, ZAMLimits::kAttributesOfElement, 1, 0},
+        {manyAttributes + " n='v'/>", -1, ZAMLimits::kAttributesOfElement, 1, 0},
         {laughs + "]><a b='&l29;'/>", -1, 0, 0, 0},
         {laughs + "]><a/>" + Repeat("&", 9), -1, 0, 0, 0},
         {Repeat("<a ", 500'000), -1, 0, 0, 0},

@@ -241,7 +241,7 @@ TEST(ZAMPixelImageTest, PicturesCostTheirPixels) {
         EXPECT_FALSE(Read(file)) << name;
     }
     EXPECT_TRUE(Read(small)); // of nine pixels
-    EXPECT_TRUE(ZAMAllocationBudget::SpendPixels(ZAMAllocationBudget::kPixels - ZAMPixelImage::kMostPixels - 9));
+    EXPECT_TRUE(ZAMAllocationBudget::SpendPixels(ZAMLimits::kPicturePixelsOfAll - ZAMLimits::kPicturePixels - 9));
     EXPECT_FALSE(Read(huge));
     EXPECT_FALSE(Read(small));
     std::thread([&small] { EXPECT_TRUE(Read(small)); }).join();

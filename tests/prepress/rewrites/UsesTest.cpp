@@ -48,7 +48,7 @@ TEST(PrepressUses, DoublingEnds) {
 TEST(PrepressUses, ChainsEndWhereDocumentsDo) {
     constexpr int kOwnLevels = 4; // the root, the first group, the last level and what it holds
     EXPECT_EQ(MeasureOf(RewriteUpTo("uses", ParseDocument(Levels(100, 1)))).depth, 2 * 100 + kOwnLevels);
-    EXPECT_LE(MeasureOf(RewriteUpTo("uses", ParseDocument(Levels(10'000, 1)))).depth, kZAMLightXmlMaximumDepth + 1);
+    EXPECT_LE(MeasureOf(RewriteUpTo("uses", ParseDocument(Levels(10'000, 1)))).depth, ZAMLimits::kElementDepth + 1);
 }
 
 // What was copied before grows with each copy of it.
@@ -61,7 +61,7 @@ TEST(PrepressUses, CopiesOfCopiesEndWhereDocumentsDo) {
         }
         document += "<g id='n" + std::to_string(i) + "'>" + nested + "</g>";
     }
-    EXPECT_LE(MeasureOf(RewriteUpTo("uses", ParseDocument(document + "</svg>"))).depth, kZAMLightXmlMaximumDepth + 1);
+    EXPECT_LE(MeasureOf(RewriteUpTo("uses", ParseDocument(document + "</svg>"))).depth, ZAMLimits::kElementDepth + 1);
 }
 
 } // namespace
