@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     path.SetPaintAttributes(style, {}, {});
     path.ParsePathString(group.Get(), value.text);
     const ZAMPrepressPath prepared = ZAMPrepressPath::Parse(value.text);
-    prepared.GetBox();
-    prepared.ToData();
+    static_cast<void>(prepared.GetBox());
+    static_cast<void>(prepared.ToData());
     return 0;
 }
