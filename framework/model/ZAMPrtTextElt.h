@@ -36,9 +36,7 @@ public:
         _ViewBox = std::make_shared<const ViewBox>(ViewBox{x, y, width, height});
     }
 
-    [[nodiscard]] std::size_t GetCost() const override {
-        return 1 + GetText().size() / ZAMLimits::kBytesForOne;
-    }
+    [[nodiscard]] std::size_t GetCost() const override { return 1 + GetText().size() / ZAMLimits::kBytesForOne; }
 
 private:
     ZAMPrtTextAttributes _TextAttributes;

@@ -26,9 +26,7 @@ public:
     }
     [[nodiscard]] std::span<const ZAMMathPoint2D> GetPoints() const { return {_Points.get(), _Count}; }
 
-    [[nodiscard]] std::size_t GetCost() const override {
-        return 1 + GetPoints().size() / ZAMLimits::kPointsForOne;
-    }
+    [[nodiscard]] std::size_t GetCost() const override { return 1 + GetPoints().size() / ZAMLimits::kPointsForOne; }
 
 private:
     std::shared_ptr<const ZAMMathPoint2D[]> _Points; // the list and its owners' count in one piece of memory

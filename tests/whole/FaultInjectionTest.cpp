@@ -50,6 +50,9 @@ public:
 [[gnu::noinline]] void* operator new[](std::size_t size) {
     return operator new(size);
 }
+[[gnu::noinline]] void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
+    return operator new(size, tag);
+}
 [[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
