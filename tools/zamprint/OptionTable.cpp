@@ -156,7 +156,8 @@ constexpr OptionRow kOptions[] = {
      ReadMostElements},
     {"--prepress", "on|off", "Rewrite the document into what is drawn rightly before it is read; on without it",
      ReadPrepress},
-    {"-u,--unlimited", nullptr, "Let a document take as much time and memory as it likes, in size and in what it reuses",
+    {"-u,--unlimited", nullptr,
+     "Let a document take as much time and memory as it likes, in size and in what it reuses",
      [](std::string_view /*text*/, Options& options) {
          options.isUnlimited = true;
          options.mostElements = std::numeric_limits<std::size_t>::max() / 2;
