@@ -2,7 +2,7 @@
 #pragma once
 
 #include "framework/lightxml/ZAMLightXmlElement.h"
-#include "tools/zamprint/Options.h"
+#include "tools/common/Options.h"
 
 #include <string>
 #include <vector>
