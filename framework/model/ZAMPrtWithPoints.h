@@ -2,6 +2,7 @@
 #pragma once
 
 #include "framework/base/ZAMExport.h"
+#include "framework/base/ZAMLimits.h"
 #include "framework/mathematics/ZAMMathPoint2D.h"
 
 #include <algorithm>

@@ -16,13 +16,10 @@ namespace {
     throw Failure(ExitStatus::Failed, document.GetName() + ": " + (reason.empty() ? "out of memory" : reason));
 }
 
-Options MakeOptions(const FilterJob& job, const Document& document) {
+Options MakeOptions() {
     Options options;
     options.allowedFiles = AllowedFiles::None;
     options.isQuiet = true;
-    if (document.GetTitle().empty()) {
-        options.title = job.title;
-    }
     return options;
 }
 
@@ -32,8 +29,11 @@ Options MakeOptions(const FilterJob& job, const Document& document) {
 std::string PrintJob(const FilterJob& job) {
     const ZAMFileAccessPolicy noFiles = ZAMFileAccessPolicy::None();
     const ZAMAllocationBudget budget;
-    const Document document(job.input, true);
-    const Options options = MakeOptions(job, document);
+    Options options = MakeOptions();
+    const Document document(job.input, options);
+    if (document.GetTitle().empty()) {
+        options.title = job.title;
+    }
 
     std::ostringstream pdf;
     ZAMPrintCairoGenerator generator(ZAMPrintCairoGenerator::Format::Pdf, pdf);
