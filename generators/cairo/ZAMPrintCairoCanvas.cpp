@@ -77,6 +77,14 @@ void ZAMPrintCairoCanvas::Open() {
     std::exchange(_Record, {}).Replay(*this);
 }
 
+/// Whether a plain mark is recorded; when the record is full it is drawn.
+bool ZAMPrintCairoCanvas::Records() {
+    if (!IsOpen() && _Record.GetSize() > ZAMPrintCairoLimits::kMostKeptBytes) {
+        Open();
+    }
+    return !IsOpen();
+}
+
 /// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more
 /// rectangles it consists of: a page of 100,000 marks spends most of its time there. A first mark as large as the page
 /// makes the region one rectangle, to which nothing needs joining. The same rectangle twice has no interior under the
@@ -91,7 +99,7 @@ void ZAMPrintCairoCanvas::MarkWholePage() {
 }
 
 void ZAMPrintCairoCanvas::Paint(const ZAMPrintColour& colour) {
-    if (!IsOpen()) {
+    if (Records()) {
         return _Record.Paint(colour);
     }
     ZAMPrintCairoColour::SetSource(_Context.get(), colour);
@@ -99,8 +107,9 @@ void ZAMPrintCairoCanvas::Paint(const ZAMPrintColour& colour) {
 }
 
 void ZAMPrintCairoCanvas::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) {
+    const bool isRecorded = Records();
     ++_Clips;
-    if (!IsOpen()) {
+    if (isRecorded) {
         return _Record.PushClip(area, toPage);
     }
     cairo_save(_Context.get());
@@ -128,7 +137,7 @@ void ZAMPrintCairoCanvas::PopAllClips() {
 
 void ZAMPrintCairoCanvas::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                                    const ZAMPrintPen* pen) {
-    if (!IsOpen() && (fill == nullptr || fill->pattern == nullptr)) {
+    if ((fill == nullptr || fill->pattern == nullptr) && Records()) {
         return _Record.DrawPath(path, toPage, fill, pen);
     }
     Open();

@@ -70,7 +70,7 @@ void ZAMPrintCairoPdfOutput::EndDocument() {
     Check(CAIRO_STATUS_SUCCESS);
 }
 
-/// False when only cairo can draw the page.
+/// False when cairo is to draw the page: because only it can, or because too much is kept.
 bool ZAMPrintCairoPdfOutput::KeepPlainPage() {
     const bool isFirst = _Written.empty();
     const double width = FitSide(_BegunWidth);
@@ -87,6 +87,10 @@ bool ZAMPrintCairoPdfOutput::KeepPlainPage() {
     }
     written.content = page.Finish();
     written.opacities = page.GetOpacities();
+    _KeptBytes += written.content.size() + GetCanvas()->GetRecord().GetSize();
+    if (_KeptBytes > ZAMPrintCairoLimits::kMostKeptBytes) {
+        return false;
+    }
     _Written.push_back(std::move(written));
     _PlainPages.push_back({_BegunWidth, _BegunHeight, GetCanvas()->TakeRecord()});
     _Width = width;

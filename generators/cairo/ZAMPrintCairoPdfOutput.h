@@ -7,6 +7,7 @@
 #include "generators/cairo/ZAMPrintCairoRecord.h"
 #include "generators/cairo/ZAMPrintCairoVectorOutput.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,7 +16,8 @@
 /// sides rounded up to whole points.
 ///
 /// As long as there is nothing but plain paths on the pages they are written without cairo, whose surface is made for
-/// the first mark that needs it; it then gets the pages before as well.
+/// the first mark that needs it, or when what is kept of the pages has grown too large; it then gets the pages before
+/// as well. Until then nothing is written before the document ends.
 class ZAMPrintCairoPdfOutput final : public ZAMPrintCairoVectorOutput {
 public:
     explicit ZAMPrintCairoPdfOutput(ZAMPrintCairoStream& stream) : ZAMPrintCairoVectorOutput(stream), _Filter(stream) {}
@@ -63,6 +65,7 @@ private:
     double _BegunHeight = 0.0;
     std::vector<PlainPage> _PlainPages;
     std::vector<ZAMPrintCairoPlainPdf::Page> _Written; ///< and what becomes of them without cairo
+    std::size_t _KeptBytes = 0;                        ///< of both
     std::vector<Tag> _Tags;                            ///< of the page: its links and destinations
     ZAMPrintCairoDestinations _Destinations;
 };

@@ -22,6 +22,9 @@ public:
     void DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                   const ZAMPrintPen* pen);
 
+    /// Bytes of memory that it takes.
+    [[nodiscard]] std::size_t GetSize() const { return _Bytes.capacity(); }
+
     /// Calls the operations of these names on a canvas, as they were called here.
     template <class Canvas> void Replay(Canvas& canvas) const;
 
@@ -51,6 +54,9 @@ private:
             return value;
         }
         template <class T> void TakeInto(std::span<T> values) {
+            if (values.empty()) {
+                return; // null is no place to copy from or to
+            }
             std::memcpy(values.data(), _Bytes.data(), values.size_bytes());
             _Bytes = _Bytes.subspan(values.size_bytes());
         }

@@ -165,3 +165,40 @@ TEST(ZAMPrintCairoPlain, APageThatNeedsCairoTakesTheOthersAlong) {
     const std::size_t row = shown.size() - std::size_t{3} * 200 * 200 + std::size_t{3} * (200 * 175 + 175);
     EXPECT_EQ(shown.substr(row, 3), std::string("\0\xFF\0", 3));
 }
+
+TEST(ZAMPrintCairoPlain, DocumentsThatGrowTooLargeGoThroughCairo) {
+    // Of 1.7 MB each, and beside the page, so that their content is nothing.
+    ZAMPrintPath path;
+    path.MoveTo({200.0, 200.0});
+    for (int i = 0; i < 100000; ++i) {
+        path.LineTo({200.0, 200.0 + i % 2});
+    }
+    const struct {
+        int pages;
+        int marks;
+        bool isPlain;
+    } rows[] = {{3, 5, true}, {1, 60, false}, {12, 5, false}};
+    for (const auto& row : rows) {
+        std::ostringstream out;
+        ZAMPrintCairoGenerator generator(ZAMPrintCairoGenerator::Format::Pdf, out);
+        ASSERT_EQ(generator.BeginDocument({}), 1);
+        for (int page = 0; page < row.pages; ++page) {
+            ASSERT_EQ(generator.BeginPage(100.0, 100.0), 1);
+            for (int mark = 0; mark < row.marks; ++mark) {
+                generator.PushClip({10.0, 10.0, 90.0, 90.0}, {});
+                generator.DrawPath(mark == 0 ? MakeRectangle(0.0, 0.0, 50.0, 50.0) : path, {}, &kRed, nullptr);
+                generator.PopClip();
+            }
+            ASSERT_EQ(generator.EndPage(), 1);
+        }
+        EXPECT_EQ(out.str().empty(), row.isPlain) << row.pages;
+        ASSERT_EQ(generator.EndDocument(), 1);
+        ExpectSound(out.str());
+        EXPECT_EQ(Count(out.str(), "/Producer(ZAM print)"), row.isPlain ? 1 : 0) << row.pages;
+        EXPECT_EQ(Count(Ask("pdfinfo", "{}", out.str()), "Pages:           " + std::to_string(row.pages)), 1);
+        EXPECT_EQ(Show(out.str(), row.pages), Show(DrawPdf([](auto& g) {
+                      g.PushClip({10.0, 10.0, 90.0, 90.0}, {});
+                      g.DrawPath(MakeRectangle(0.0, 0.0, 50.0, 50.0), {}, &kRed, nullptr);
+                  })));
+    }
+}
