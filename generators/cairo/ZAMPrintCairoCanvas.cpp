@@ -77,14 +77,6 @@ void ZAMPrintCairoCanvas::Open() {
     std::exchange(_Record, {}).Replay(*this);
 }
 
-/// Whether a plain mark is recorded; when the record is full it is drawn.
-bool ZAMPrintCairoCanvas::Records() {
-    if (!IsOpen() && _Record.GetSize() > ZAMPrintCairoLimits::kMostKeptBytes) {
-        Open();
-    }
-    return !IsOpen();
-}
-
 /// Cairo keeps the region that its marks cover and joins each new mark to it, which takes the longer the more
 /// rectangles it consists of: a page of 100,000 marks spends most of its time there. A first mark as large as the page
 /// makes the region one rectangle, to which nothing needs joining. The same rectangle twice has no interior under the
@@ -99,7 +91,7 @@ void ZAMPrintCairoCanvas::MarkWholePage() {
 }
 
 void ZAMPrintCairoCanvas::Paint(const ZAMPrintColour& colour) {
-    if (Records()) {
+    if (!IsOpen()) {
         return _Record.Paint(colour);
     }
     ZAMPrintCairoColour::SetSource(_Context.get(), colour);
@@ -107,9 +99,8 @@ void ZAMPrintCairoCanvas::Paint(const ZAMPrintColour& colour) {
 }
 
 void ZAMPrintCairoCanvas::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) {
-    const bool isRecorded = Records();
     ++_Clips;
-    if (isRecorded) {
+    if (!IsOpen()) {
         return _Record.PushClip(area, toPage);
     }
     cairo_save(_Context.get());
@@ -137,7 +128,7 @@ void ZAMPrintCairoCanvas::PopAllClips() {
 
 void ZAMPrintCairoCanvas::DrawPath(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage, const ZAMPrintFill* fill,
                                    const ZAMPrintPen* pen) {
-    if ((fill == nullptr || fill->pattern == nullptr) && Records()) {
+    if (!IsOpen() && (fill == nullptr || fill->pattern == nullptr)) {
         return _Record.DrawPath(path, toPage, fill, pen);
     }
     Open();

@@ -32,7 +32,7 @@ public:
                         double height, double scale);
 
     /// A page that keeps its marks, on a surface that is not there yet: it is made when the first mark comes that is no
-    /// plain path, or when the record of those has grown too long. The pictures are borrowed.
+    /// plain path. The pictures are borrowed.
     ZAMPrintCairoCanvas(std::function<cairo_surface_t*()> makeSurface, ZAMPrintCairoPictures& pictures, double width,
                         double height);
 
@@ -65,7 +65,6 @@ public:
     void DrawImage(const ZAMRef<ZAMPixelImage>& image, const ZAMMathAffine2D& toPage);
 
 private:
-    [[nodiscard]] bool Records();
     [[nodiscard]] ZAMMathBox2D GetView(double reach) const;
     void ClipTo(const ZAMMathBox2D& area, const ZAMMathAffine2D& toDevice);
     [[nodiscard]] bool IsMuchWork(double reach) const;

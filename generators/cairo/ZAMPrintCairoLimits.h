@@ -99,8 +99,8 @@ inline constexpr double kFinestCell = 16.0;
 inline constexpr std::size_t kMostMadePixels = std::size_t{1} << 26U;
 inline constexpr std::size_t kPixelsForEachPicture = 256;
 
-/// Bytes of what is kept of plain pages until the document ends, and of one page's record. From here on cairo draws the
-/// pages and lets go of each when it ends: a document of any length is printed in the same memory.
+/// Bytes of what is kept of plain pages until the document ends. Where the pages before have more, cairo draws them and
+/// lets go of each: a document of any length is printed in the same memory. A page alone takes cairo more.
 inline constexpr std::size_t kMostKeptBytes = std::size_t{1} << 26U;
 
 /// Sides of a PDF page in points (ISO 32000-1, annex C). Below the smallest, readers see an empty box.

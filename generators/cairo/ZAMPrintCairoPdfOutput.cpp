@@ -72,6 +72,9 @@ void ZAMPrintCairoPdfOutput::EndDocument() {
 
 /// False when cairo is to draw the page: because only it can, or because too much is kept.
 bool ZAMPrintCairoPdfOutput::KeepPlainPage() {
+    if (_KeptBytes > ZAMPrintCairoLimits::kMostKeptBytes) {
+        return false;
+    }
     const bool isFirst = _Written.empty();
     const double width = FitSide(_BegunWidth);
     const double height = FitSide(_BegunHeight);
@@ -80,7 +83,7 @@ bool ZAMPrintCairoPdfOutput::KeepPlainPage() {
     ZAMPrintCairoPlainPdf::Page written;
     written.width = isRounded ? RoundUp(width) : (isSame ? _Written.back().width : width);
     written.height = isRounded ? RoundUp(height) : (isSame ? _Written.back().height : height);
-    ZAMPrintCairoPlainPage page(_BegunWidth, _BegunHeight, written.height);
+    ZAMPrintCairoPlainPage page(written.width, written.height);
     GetCanvas()->GetRecord().Replay(page);
     if (!page.IsPlain()) {
         return false;
@@ -88,9 +91,6 @@ bool ZAMPrintCairoPdfOutput::KeepPlainPage() {
     written.content = page.Finish();
     written.opacities = page.GetOpacities();
     _KeptBytes += written.content.size() + GetCanvas()->GetRecord().GetSize();
-    if (_KeptBytes > ZAMPrintCairoLimits::kMostKeptBytes) {
-        return false;
-    }
     _Written.push_back(std::move(written));
     _PlainPages.push_back({_BegunWidth, _BegunHeight, GetCanvas()->TakeRecord()});
     _Width = width;

@@ -16,8 +16,8 @@
 /// sides rounded up to whole points.
 ///
 /// As long as there is nothing but plain paths on the pages they are written without cairo, whose surface is made for
-/// the first mark that needs it, or when what is kept of the pages has grown too large; it then gets the pages before
-/// as well. Until then nothing is written before the document ends.
+/// the first mark that needs it, or when what is kept of earlier pages has grown too large; it then gets the pages
+/// before as well. Until then nothing is written before the document ends.
 class ZAMPrintCairoPdfOutput final : public ZAMPrintCairoVectorOutput {
 public:
     explicit ZAMPrintCairoPdfOutput(ZAMPrintCairoStream& stream) : ZAMPrintCairoVectorOutput(stream), _Filter(stream) {}

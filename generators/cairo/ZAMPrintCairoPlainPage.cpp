@@ -7,10 +7,14 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace {
 
 constexpr ZAMMath2x2Matrix kAsIs{1.0, 0.0, 0.0, 1.0};
+
+// The shortest length that is written with six decimals.
+constexpr double kShortest = 1e-6;
 
 /// So many that the page could be shown 12,000 pixels wide before a reader could see that there are no more. A
 /// hundredth of a point is finer than any printer.
@@ -44,10 +48,10 @@ bool Contains(const ZAMMathBox2D& outer, const ZAMMathBox2D& inner) {
 
 } // namespace
 
-ZAMPrintCairoPlainPage::ZAMPrintCairoPlainPage(double width, double height, double shownHeight)
+ZAMPrintCairoPlainPage::ZAMPrintCairoPlainPage(double width, double height)
     : _Page{0.0, 0.0, width, height}, _Path(_Text, CountDecimals(width, height)) {
     // PDF counts upward.
-    for (const double number : {1.0, 0.0, 0.0, -1.0, 0.0, shownHeight}) {
+    for (const double number : {1.0, 0.0, 0.0, -1.0, 0.0, height}) {
         _Text.AddNumber(number);
     }
     _Text.AddWord("cm");
@@ -69,6 +73,8 @@ void ZAMPrintCairoPlainPage::PushClip(const ZAMMathBox2D& area, const ZAMMathAff
         clip.kind = Clip::Kind::Path;
         _IsPlain = _IsPlain && area.Width() > 0.0 && area.Height() > 0.0 && Assign(MakeRectangle(area), toPage);
         clip.path = _Device.GetPath();
+        // A rectangle with a corner that is no place is left to cairo, which cuts it first.
+        _IsPlain = _IsPlain && clip.path.GetVerbs().size() == 5;
     }
 }
 
@@ -164,7 +170,8 @@ void ZAMPrintCairoPlainPage::StrokeShaped(const ZAMPrintCairoPen& pen) {
     _Text.AddWord("q");
     const ZAMMath2x2Matrix& m = pen.GetToDevice();
     for (const double number : {m.a, m.c, m.b, m.d, 0.0, 0.0}) {
-        _Text.AddNumber(number);
+        // Entries are 1 at most, and the path's numbers the longer the shorter they are.
+        _Text.AddFixed(std::llround(number * 1e12), 12);
     }
     _Text.AddWord("cm");
     _Path.Write(_Device.GetPath(), pen.GetFromDevice(), false);
@@ -215,13 +222,19 @@ void ZAMPrintCairoPlainPage::SetPen(const ZAMPrintCairoPen& pen) {
         _Text.AddWord("M");
         _State.hasMiterLimit = true;
     }
-    if (pen.GetDashes() != _State.dashes) {
+    std::vector<double> dashes = pen.GetDashes();
+    if (pen.GetCap() == CAIRO_LINE_CAP_BUTT) {
+        // Without ends there is nothing of them to see.
+        std::ranges::replace_if(
+            dashes, [](double dash) { return dash < kShortest; }, 0.0);
+    }
+    if (dashes != _State.dashes) {
         _Text.AddWord("[");
-        std::ranges::for_each(pen.GetDashes(), [this](double dash) { AddLength(dash); });
+        std::ranges::for_each(dashes, [this](double dash) { AddLength(dash); });
         _Text.AddWord("]");
         _Text.AddFixed(0, 0);
         _Text.AddWord("d");
-        _State.dashes = pen.GetDashes();
+        _State.dashes = std::move(dashes);
     }
 }
 
@@ -231,6 +244,6 @@ void ZAMPrintCairoPlainPage::AddLength(double length) {
     if (length >= kCoarse) {
         _Text.AddFixed(std::llround(length * 1e4), 4);
     } else {
-        _Text.AddNumber(length > 0.0 ? std::max(length, 1e-6) : 0.0);
+        _Text.AddNumber(length > 0.0 ? std::max(length, kShortest) : 0.0);
     }
 }

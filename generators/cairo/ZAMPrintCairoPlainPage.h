@@ -19,8 +19,8 @@
 /// what cairo would make, in a tenth of the time and with fewer bytes; the others it leaves to cairo.
 class ZAMPrintCairoPlainPage {
 public:
-    /// What is drawn on a page of the given size in points is shown on one of that height.
-    ZAMPrintCairoPlainPage(double width, double height, double shownHeight);
+    /// The size in points is what the page shows: all of it that was begun, or a little more.
+    ZAMPrintCairoPlainPage(double width, double height);
 
     void Paint(const ZAMPrintColour& colour);
     void PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "generators/cairo/ZAMPrintCairoPlainPath.h"
 
+#include "framework/mathematics/ZAMMathVector2D.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -12,22 +14,23 @@ ZAMPrintCairoPlainPath::ZAMPrintCairoPlainPath(ZAMPrintCairoPlainText& text, int
 
 void ZAMPrintCairoPlainPath::Write(const ZAMPrintPath& path, const ZAMMath2x2Matrix& map, bool fills) {
     _Map = map;
+    _Fills = fills;
     if (WriteRectangle(path)) {
         return;
     }
     const ZAMMathPoint2D* p = path.GetPoints().data();
     const auto verbs = path.GetVerbs();
     for (std::size_t i = 0; i < verbs.size(); ++i) {
-        const bool closes = i + 1 < verbs.size() && verbs[i + 1] == Verb::ClosePath;
+        const Verb next = i + 1 < verbs.size() ? verbs[i + 1] : Verb::MoveTo;
         switch (verbs[i]) {
         case Verb::MoveTo:
-            MoveTo(Round(p[0]));
+            MoveTo(p[0]);
             break;
         case Verb::LineTo:
-            LineTo(Round(p[0]), closes);
+            LineTo(p[0], next);
             break;
         case Verb::CubicTo:
-            CubicTo(Round(p[0]), Round(p[1]), Round(p[2]));
+            CubicTo(p, next);
             break;
         case Verb::ClosePath:
             if (!fills) {
@@ -70,18 +73,25 @@ bool ZAMPrintCairoPlainPath::WriteRectangle(const ZAMPrintPath& path) {
     return true;
 }
 
-void ZAMPrintCairoPlainPath::MoveTo(const Place& place) {
-    Add(place);
+void ZAMPrintCairoPlainPath::MoveTo(const ZAMMathPoint2D& point) {
+    _Origin = point;
+    _Start = _Current = Round(point);
+    Add(_Start);
     _Text.AddWord("m");
-    _Start = _Current = place;
     _IsMoved = true;
 }
 
-/// A line of no length is left out, unless the contour would have nothing else: with round ends it is a dot. So is one
-/// to where the contour begins when it is closed with a line all the same.
-void ZAMPrintCairoPlainPath::LineTo(const Place& place, bool closes) {
-    if (!_IsMoved && (place == _Current || (closes && place == _Start))) {
+/// A line of no length is left out, unless the contour has nothing else: with round ends it is a dot. So is one to
+/// where the contour begins when it is closed with a line all the same.
+void ZAMPrintCairoPlainPath::LineTo(const ZAMMathPoint2D& point, Verb next) {
+    Place place = Round(point);
+    const bool isLast = next == Verb::MoveTo || next == Verb::ClosePath;
+    const bool closes = next == Verb::ClosePath && place == _Start;
+    if (_IsMoved ? place == _Current && !isLast : place == _Current || closes) {
         return;
+    }
+    if (place == _Current && next == Verb::MoveTo && !_Fills) {
+        place = Lengthen(place, point);
     }
     Add(place);
     _Text.AddWord("l");
@@ -89,9 +99,25 @@ void ZAMPrintCairoPlainPath::LineTo(const Place& place, bool closes) {
     _IsMoved = false;
 }
 
-void ZAMPrintCairoPlainPath::CubicTo(const Place& control1, const Place& control2, const Place& end) {
+/// The end of a stroked contour that is shorter than a unit. If it has any length its ends say which way it goes, and
+/// square ones are seen: it gets a length of one unit.
+ZAMPrintCairoPlainPath::Place ZAMPrintCairoPlainPath::Lengthen(const Place& place, const ZAMMathPoint2D& point) const {
+    const ZAMMathVector2D way{point.x - _Origin.x, point.y - _Origin.y};
+    const double x = _Map.a * way.x + _Map.b * way.y;
+    const double y = _Map.c * way.x + _Map.d * way.y;
+    const auto signOf = [](double length) { return length > 0.0 ? 1 : (length < 0.0 ? -1 : 0); };
+    return std::abs(x) >= std::abs(y) ? Place{place.x + signOf(x), place.y} : Place{place.x, place.y + signOf(y)};
+}
+
+void ZAMPrintCairoPlainPath::CubicTo(const ZAMMathPoint2D* points, Verb next) {
+    const Place control1 = Round(points[0]);
+    const Place control2 = Round(points[1]);
+    const Place end = Round(points[2]);
     const bool isShortStart = control1 == _Current;
     const bool isShortEnd = control2 == end;
+    if (isShortStart && isShortEnd && end == _Current) {
+        return LineTo(points[2], next);
+    }
     if (!isShortStart) {
         Add(control1);
     }

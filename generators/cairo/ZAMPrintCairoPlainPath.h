@@ -2,6 +2,7 @@
 #pragma once
 
 #include "framework/mathematics/ZAMMath2x2Matrix.h"
+#include "framework/mathematics/ZAMMathPoint2D.h"
 #include "framework/print/ZAMPrintPath.h"
 #include "generators/cairo/ZAMPrintCairoPlainText.h"
 
@@ -29,15 +30,18 @@ private:
     [[nodiscard]] Place Round(const ZAMMathPoint2D& point) const;
     void Add(const Place& place);
     [[nodiscard]] bool WriteRectangle(const ZAMPrintPath& path);
-    void MoveTo(const Place& place);
-    void LineTo(const Place& place, bool closes);
-    void CubicTo(const Place& control1, const Place& control2, const Place& end);
+    void MoveTo(const ZAMMathPoint2D& point);
+    void LineTo(const ZAMMathPoint2D& point, ZAMPrintPath::Verb next);
+    [[nodiscard]] Place Lengthen(const Place& place, const ZAMMathPoint2D& point) const;
+    void CubicTo(const ZAMMathPoint2D* points, ZAMPrintPath::Verb next);
 
     ZAMPrintCairoPlainText& _Text;
     int _Decimals;
     double _Units; ///< to the point
     ZAMMath2x2Matrix _Map;
-    Place _Start; ///< of the contour
+    bool _Fills = false;
+    ZAMMathPoint2D _Origin; ///< where the contour starts, as it was given
+    Place _Start;           ///< and as it is written
     Place _Current;
     bool _IsMoved = false; ///< the contour has no segment yet
 };

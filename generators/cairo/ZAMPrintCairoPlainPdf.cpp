@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <concepts>
 #include <cstdio>
 #include <ctime>
 
@@ -16,15 +18,19 @@ constexpr std::size_t kPageTree = 2;
 constexpr std::size_t kInformation = 3;
 constexpr std::size_t kFirstPage = 4;
 
-template <class... Numbers> std::string Format(const char* format, Numbers... numbers) {
+/// Of whole numbers: what becomes of others depends on the program's locale.
+template <std::integral... Numbers> std::string Format(const char* format, Numbers... numbers) {
     std::array<char, 160> text{};
     const int length = std::snprintf(text.data(), text.size(), format, numbers...);
     return {text.data(), static_cast<std::size_t>(length)};
 }
 
-/// Six significant decimals at most, as a size needs them.
+/// With six decimals, as a size needs them, but no needless one.
 std::string ToText(double number) {
-    std::string text = Format("%.6f", number);
+    std::array<char, 32> digits{};
+    char* const begin = digits.data();
+    const auto result = std::to_chars(begin, begin + digits.size(), number, std::chars_format::fixed, 6);
+    std::string text(begin, result.ptr);
     text.erase(text.find_last_not_of('0') + 1);
     return text.back() == '.' ? text.substr(0, text.size() - 1) : text;
 }
@@ -98,7 +104,7 @@ void ZAMPrintCairoPlainPdf::WritePages(const std::vector<Page>& pages) {
     BeginObject();
     std::string kids;
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        kids += Format("%s%zu 0 R", i == 0 ? "" : " ", kFirstPage + 2 * i);
+        kids += (i == 0 ? "" : " ") + Format("%zu 0 R", kFirstPage + 2 * i);
     }
     Add("<</Type/Pages/Kids[" + kids + "]/Count " + std::to_string(pages.size()) + ">>\nendobj\n");
 }
@@ -128,8 +134,8 @@ void ZAMPrintCairoPlainPdf::WritePage(const Page& page) {
     BeginObject();
     std::string resources;
     for (const int opacity : page.opacities) {
-        const double share = opacity / 255.0;
-        resources += Format("/a%d<</CA %.3g/ca %.3g>>", opacity, share, share);
+        const std::string share = ToText(opacity / 255.0);
+        resources += Format("/a%d<</CA ", opacity) + share + "/ca " + share + ">>";
     }
     Add(Format("<</Type/Page/Parent %zu 0 R/MediaBox[0 0 ", kPageTree) + ToText(page.width) + " " +
         ToText(page.height) + Format("]/Contents %zu 0 R/Resources<<", _Objects.size() + 1));

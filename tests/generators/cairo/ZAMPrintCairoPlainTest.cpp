@@ -92,7 +92,13 @@ TEST(ZAMPrintCairoPlain, WritesEachMarkInItsShortestForm) {
         {"M 0.5 0 L 9 0 L 9 9 L 0.5 0 Z", nullptr, &thin, " 4 M .5 0 m 9 0 l 9 9 l h S "},
         {"M 0 0 C 0 0 1 2 3 4 C 5 6 7 8 7 8 C 1 2 3 4 -5 -0.25", nullptr, &thick,
          " 2.5 w 4 M 0 0 m 1 2 3 4 v 5 6 7 8 y 1 2 3 4 -5 -.25 c S "},
-        {"M 1 1 L 1 1 L 2 2", &black, &thin, " 4 M 1 1 m 1 1 l 2 2 l B "},
+        // A line too short to tell keeps its ends, and the way that they point.
+        {"M 1 1 L 1 1 L 2 2", &black, &thin, " 4 M 1 1 m 2 2 l B "},
+        {"M 1 1 L 1 1", nullptr, &thin, " 4 M 1 1 m 1 1 l S "},
+        {"M 1 1 L 1.0002 1.0001 L 1.0001 1 M 5 5 L 5.0001 4.9997", nullptr, &thin,
+         " 4 M 1 1 m 1.001 1 l 5 5 m 5 4.999 l S "},
+        {"M 1 1 C 1 1 1 1.0001 1 1.0002", nullptr, &thin, " 4 M 1 1 m 1 1.001 l S "},
+        {"M 1 1 L 1.0002 1 Z", nullptr, &thin, " 4 M 1 1 m 1 1 l h S "},
         {"M 1 1 L 9 1 L 5 5", &faint, nullptr, " /a128 gs 1 0 .2 rg 1 1 m 9 1 l 5 5 l f "},
         // Nothing to see.
         {"M 1 1 L 9 1", &black, nullptr, " "},
@@ -103,6 +109,27 @@ TEST(ZAMPrintCairoPlain, WritesEachMarkInItsShortestForm) {
         ExpectSound(pdf);
         EXPECT_EQ(ContentOf(pdf), row.content) << row.path;
     }
+}
+
+TEST(ZAMPrintCairoPlain, PensThatAreNoCirclesKeepTheirPaths) {
+    const ZAMPrintPen thin = MakePen(1.0);
+    const ZAMMathAffine2D map{1.0, 0.0, 0.0, 0.0010004999, 0.0, 0.0};
+    const std::string pdf =
+        DrawPdf([&](auto& g) { g.DrawPath(MakePath("M 20 20000 L 80 80000"), map, nullptr, &thin); });
+    // 20,000 times another digit would be 0.02 points.
+    EXPECT_EQ(ContentOf(pdf), " 4 M q 1 0 0 .0010004999 0 0 cm 20 20000 m 80 80000 l S Q ");
+}
+
+TEST(ZAMPrintCairoPlain, DashesOfAlmostNoLengthAreSeenByTheirEnds) {
+    const float dashes[] = {1e-8F, 5.0F};
+    ZAMPrintPen pen = MakePen(1.0);
+    pen.dashes = dashes;
+    const auto draw = [&](auto& g) {
+        g.DrawPath(MakePath("M 1 1 L 9 1"), {}, nullptr, &pen);
+        pen.cap = ZAMPrintLineAttribute::CapRound;
+        g.DrawPath(MakePath("M 1 1 L 9 1"), {}, nullptr, &pen);
+    };
+    EXPECT_EQ(ContentOf(DrawPdf(draw)), " 4 M [0 5] 0 d 1 1 m 9 1 l S 1 J [.000001 5] 0 d 1 1 m 9 1 l S ");
 }
 
 TEST(ZAMPrintCairoPlain, ClipsEndWithWhatWasSetInThem) {
@@ -177,7 +204,7 @@ TEST(ZAMPrintCairoPlain, DocumentsThatGrowTooLargeGoThroughCairo) {
         int pages;
         int marks;
         bool isPlain;
-    } rows[] = {{3, 5, true}, {1, 60, false}, {12, 5, false}};
+    } rows[] = {{3, 5, true}, {1, 60, true}, {12, 5, false}};
     for (const auto& row : rows) {
         std::ostringstream out;
         ZAMPrintCairoGenerator generator(ZAMPrintCairoGenerator::Format::Pdf, out);
@@ -201,4 +228,41 @@ TEST(ZAMPrintCairoPlain, DocumentsThatGrowTooLargeGoThroughCairo) {
                       g.DrawPath(MakeRectangle(0.0, 0.0, 50.0, 50.0), {}, &kRed, nullptr);
                   })));
     }
+}
+
+TEST(ZAMPrintCairoPlain, PagesThatAreRoundedUpShowAllThatIsDrawn) {
+    std::ostringstream out;
+    ZAMPrintCairoGenerator generator(ZAMPrintCairoGenerator::Format::Pdf, out);
+    ZAMPrintParameters parameters;
+    parameters.background = ZAMPrintColour{0, 0, 255, 128};
+    ASSERT_EQ(generator.BeginDocument(parameters), 1);
+    for (const double side : {60.5, 40.25}) {
+        ASSERT_EQ(generator.BeginPage(side, side), 1);
+        generator.PushClip({0.0, 0.0, side, side}, {});
+        generator.DrawPath(MakeRectangle(-50.0, -50.0, 200.0, 200.0), {}, &kRed, nullptr);
+        generator.PopClip();
+        ASSERT_EQ(generator.EndPage(), 1);
+    }
+    ASSERT_EQ(generator.EndDocument(), 1);
+    ExpectSound(out.str());
+    const std::string text = Uncompress(out.str());
+    EXPECT_EQ(Count(out.str(), "/MediaBox[0 0 60.5 60.5]"), 1);
+    EXPECT_EQ(Count(out.str(), "/MediaBox[0 0 41 41]"), 1);
+    EXPECT_EQ(Count(out.str(), "/a128<</CA 0.501961/ca 0.501961>>"), 2);
+    // The background is as large as the page, and what a clip shuts out is not in the strip beyond it.
+    EXPECT_EQ(Count(text, "\n0 0 60.5 60.5 re\n"), 1);
+    EXPECT_EQ(Count(text, "\n0 0 41 41 re\n"), 1);
+    EXPECT_EQ(Count(text, "\n0 0 40.25 40.25 re\n"), 1);
+}
+
+TEST(ZAMPrintCairoPlain, ClipsWithoutEndShutOutWhatCairoShutsOut) {
+    const auto draw = [](const ZAMMathBox2D& area) {
+        return DrawPdf([&](auto& g) {
+            g.PushClip(area, {});
+            g.DrawPath(MakeRectangle(10.0, 10.0, 80.0, 80.0), {}, &kRed, nullptr);
+            g.PopClip();
+        });
+    };
+    EXPECT_EQ(Show(draw({20.0, -kInfinity, 50.0, kInfinity})), Show(draw({20.0, -500.0, 50.0, 500.0})));
+    EXPECT_EQ(Show(draw({20.0, 20.0, kInfinity, kInfinity})), Show(draw({20.0, 20.0, 500.0, 500.0})));
 }
