@@ -99,6 +99,10 @@ inline constexpr double kFinestCell = 16.0;
 inline constexpr std::size_t kMostMadePixels = std::size_t{1} << 26U;
 inline constexpr std::size_t kPixelsForEachPicture = 256;
 
+/// Pixels that a document has searched for rings: 32 of the largest pictures, which take about 25 ms each when they are
+/// rings, and less otherwise. The same picture is searched again for each aspect that it is shown with.
+inline constexpr std::size_t kMostSearchedPixels = std::size_t{1} << 25U;
+
 /// Bytes of what is kept of plain pages until the document ends. Where the pages before have more, cairo draws them and
 /// lets go of each: a document of any length is printed in the same memory. A page alone takes cairo more.
 inline constexpr std::size_t kMostKeptBytes = std::size_t{1} << 26U;

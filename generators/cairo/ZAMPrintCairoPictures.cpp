@@ -70,7 +70,7 @@ cairo_surface_t* ZAMPrintCairoPictures::Find(const ZAMRef<ZAMPixelImage>& image,
 const ZAMPrintCairoRings* ZAMPrintCairoPictures::FindRings(const ZAMRef<ZAMPixelImage>& image, double aspect) {
     static_cast<void>(FindImage(image)); // holds on to it
     const auto [place, isNew] = _Rings.try_emplace({image.Get(), static_cast<float>(aspect)});
-    if (isNew) {
+    if (isNew && ZAMPrintCairoRings::AreSought(*image, aspect) && SpendSearch(*image)) {
         place->second = ZAMPrintCairoRings::Find(*image, aspect);
     }
     return place->second ? &*place->second : nullptr;
@@ -110,6 +110,11 @@ bool ZAMPrintCairoPictures::SpendCell(const Cell& cell) {
     _CellsMade += static_cast<std::size_t>(cell.columns) * static_cast<std::size_t>(cell.rows) +
                   ZAMPrintCairoLimits::kPixelsForEachPicture;
     return _CellsMade <= ZAMPrintCairoLimits::kMostMadePixels;
+}
+
+bool ZAMPrintCairoPictures::SpendSearch(const ZAMPixelImage& image) {
+    _Searched += image.GetPixels().size();
+    return _Searched <= ZAMPrintCairoLimits::kMostSearchedPixels;
 }
 
 ZAMPrintCairoSurface ZAMPrintCairoPictures::Make(const Known& known, const Form& form) const {

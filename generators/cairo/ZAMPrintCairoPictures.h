@@ -78,7 +78,8 @@ public:
         }
         return SpendCell(cell) ? _Cells[cell] = make() : ZAMRef<ZAMPixelImage>();
     }
-    /// The image as rings; null when it has none. See ZAMPrintCairoRings for the aspect.
+    /// The image as rings; null when it has none, or when the document had more searched for them than is sensible. See
+    /// ZAMPrintCairoRings for the aspect.
     [[nodiscard]] const ZAMPrintCairoRings* FindRings(const ZAMRef<ZAMPixelImage>& image, double aspect);
     /// Drops what was made of images for the page.
     void EndPage();
@@ -93,6 +94,7 @@ private:
     [[nodiscard]] Known& FindImage(const ZAMRef<ZAMPixelImage>& image);
     [[nodiscard]] bool Spend(const Form& form);
     [[nodiscard]] bool SpendCell(const Cell& cell);
+    [[nodiscard]] bool SpendSearch(const ZAMPixelImage& image);
     [[nodiscard]] ZAMPrintCairoSurface Make(const Known& known, const Form& form) const;
 
     bool _KeepsMarks;
@@ -101,4 +103,5 @@ private:
     std::map<std::pair<const ZAMPixelImage*, float>, std::optional<ZAMPrintCairoRings>> _Rings;
     std::size_t _Made = 0;      ///< pixels for the page
     std::size_t _CellsMade = 0; ///< pixels for the document
+    std::size_t _Searched = 0;  ///< pixels for rings, each as often as another aspect was asked for
 };

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 
 namespace {
 
@@ -14,8 +15,12 @@ constexpr double kTolerance = 3.0;
 constexpr double kStopTolerance = 0.75;
 // No place of the centre brings a pixel that is so far off to where it should be.
 constexpr double kHopeless = 48.0;
+// Colours that are nearer to each other are lost in what a pixel may be off.
+constexpr double kSmallestRange = 8.0 * kTolerance;
 constexpr int kFewestPixels = 16;
 constexpr int kMostPixels = 1024;
+// Of a picture with enough of them, the rows and columns that tell most pictures from rings.
+constexpr int kSampleStep = 4;
 
 double ChannelOf(std::uint32_t pixel, std::size_t channel) {
     return pixel >> (8 * channel) & 0xFFU;
@@ -65,13 +70,18 @@ private:
 
 class ZAMPrintCairoRings::Pixels {
 public:
-    Pixels(const ZAMPixelImage& image, double aspect)
-        : _Pixels(image.GetPixels()), _Width(image.GetWidth()), _Height(image.GetHeight()), _Aspect(aspect) {}
+    // Each pixel of each `step`th row and column.
+    Pixels(const ZAMPixelImage& image, double aspect, int step)
+        : _Pixels(image.GetPixels()), _Width(image.GetWidth()), _Height(image.GetHeight()), _Aspect(aspect),
+          _Step(step) {}
 
+    // Until `take` says that it has enough.
     template <class Take> void ForEach(const Take& take) const {
-        for (int y = 0; y < _Height; ++y) {
-            for (int x = 0; x < _Width; ++x) {
-                take(PlaceOf(x, y), At(x, y));
+        for (int y = 0; y < _Height; y += _Step) {
+            for (int x = 0; x < _Width; x += _Step) {
+                if (!take(PlaceOf(x, y), At(x, y))) {
+                    return;
+                }
             }
         }
     }
@@ -81,8 +91,8 @@ public:
         // Neighbours differ by too little, most of it rounding.
         const int reach = std::max(1, std::min(_Width, _Height) / 32);
         Equations equations;
-        for (int y = reach; y < _Height - reach; ++y) {
-            for (int x = reach; x < _Width - reach; ++x) {
+        for (int y = reach; y < _Height - reach; y += _Step) {
+            for (int x = reach; x < _Width - reach; x += _Step) {
                 const double dx = Mix(At(x + reach, y)) - Mix(At(x - reach, y));
                 const double dy = (Mix(At(x, y + reach)) - Mix(At(x, y - reach))) / _Aspect;
                 const ZAMMathPoint2D place = PlaceOf(x, y);
@@ -106,29 +116,53 @@ private:
     int _Width;
     int _Height;
     double _Aspect;
+    int _Step;
 };
 
-std::optional<ZAMPrintCairoRings> ZAMPrintCairoRings::Find(const ZAMPixelImage& image, double aspect) {
+bool ZAMPrintCairoRings::AreSought(const ZAMPixelImage& image, double aspect) {
     const int fewest = std::min(image.GetWidth(), image.GetHeight());
     const int most = std::max(image.GetWidth(), image.GetHeight());
-    if (fewest < kFewestPixels || most > kMostPixels || !(aspect > 0.1 && aspect < 10.0)) {
+    return fewest >= kFewestPixels && most <= kMostPixels && aspect > 0.1 && aspect < 10.0;
+}
+
+std::optional<ZAMPrintCairoRings> ZAMPrintCairoRings::Find(const ZAMPixelImage& image, double aspect) {
+    if (!AreSought(image, aspect)) {
         return std::nullopt;
     }
-    const Pixels pixels(image, aspect);
-    const auto centre = pixels.FindCentre();
-    if (!centre || !(pixels.FarthestFrom(*centre) < 2.0 * kMostPixels)) {
+    const bool isLarge = std::min(image.GetWidth(), image.GetHeight()) >= kSampleStep * kFewestPixels;
+    const Pixels sample(image, aspect, isLarge ? kSampleStep : 1);
+    const auto centre = sample.FindCentre();
+    auto found = centre ? FindAbout(*centre, sample) : std::nullopt;
+    if (found && isLarge) {
+        found = FindAbout(found->_Centre, Pixels(image, aspect, 1));
+    }
+    if (!found || !found->IsSmooth() || !found->IsSeen()) {
         return std::nullopt;
     }
-    ZAMPrintCairoRings found(pixels, *centre);
-    constexpr int kMostSteps = 6;
+    found->Straighten();
+    found->_Stops.push_back(0);
+    found->ChooseStops(0, found->_Rings.size() - 1);
+    return found;
+}
+
+/// The rings whose centre is near a place.
+std::optional<ZAMPrintCairoRings> ZAMPrintCairoRings::FindAbout(const ZAMMathPoint2D& place, const Pixels& pixels) {
+    if (!(pixels.FarthestFrom(place) < 2.0 * kMostPixels)) {
+        return std::nullopt;
+    }
+    ZAMPrintCairoRings found(pixels, place);
+    constexpr std::size_t kMostSteps = 6;
+    std::array<double, kMostSteps + 1> errors{};
     ZAMMathVector2D last{0.0, 0.0};
-    for (int step = 0;; ++step) {
-        const double error = found.FindError(pixels);
+    for (std::size_t step = 0;; ++step) {
+        const double error = errors[step] = found.FindError(pixels);
         if (error <= kTolerance) {
-            break;
+            return found;
         }
-        const auto way = error <= kHopeless ? found.FindWay(pixels) : std::nullopt;
-        if (step == kMostSteps || !way) {
+        // In two steps rings come to less than half the error.
+        const bool isVain = error > kHopeless || (step >= 2 && error > errors[step - 2] / 2.0);
+        const auto way = isVain || step == kMostSteps ? std::nullopt : found.FindWay(pixels);
+        if (!way) {
             return std::nullopt;
         }
         // Rings about the wrong place are blurred, which makes all ways too short by the same factor.
@@ -138,10 +172,6 @@ std::optional<ZAMPrintCairoRings> ZAMPrintCairoRings::Find(const ZAMPixelImage& 
         last = step % 2 == 0 ? *way : ZAMMathVector2D{0.0, 0.0};
         found = ZAMPrintCairoRings(pixels, {found._Centre.x + stretch * way->x, found._Centre.y + stretch * way->y});
     }
-    found.Straighten();
-    found._Stops.push_back(0);
-    found.ChooseStops(0, found._Rings.size() - 1);
-    return found;
 }
 
 /// Each ring is the mean of its pixels; each pixel is shared by the two rings that it lies between.
@@ -158,6 +188,7 @@ ZAMPrintCairoRings::ZAMPrintCairoRings(const Pixels& pixels, const ZAMMathPoint2
                 _Rings[number][channel] += weight * ChannelOf(pixel, channel);
             }
         }
+        return true;
     });
     for (std::size_t ring = 0; ring < _Rings.size(); ++ring) {
         std::ranges::for_each(_Rings[ring], [&](double& sum) { sum /= std::max(weights[ring], 1e-9); });
@@ -185,7 +216,7 @@ ZAMPrintCairoRings::Colour ZAMPrintCairoRings::At(double distance) const {
     return colour;
 }
 
-/// How far the pixel that agrees least is off, in its worst channel.
+/// How far the pixel that agrees least is off, in its worst channel; of those up to one that leaves no hope.
 double ZAMPrintCairoRings::FindError(const Pixels& pixels) const {
     double worst = 0.0;
     pixels.ForEach([&](const ZAMMathPoint2D& place, std::uint32_t pixel) {
@@ -193,6 +224,7 @@ double ZAMPrintCairoRings::FindError(const Pixels& pixels) const {
         for (std::size_t channel = 0; channel < kChannels; ++channel) {
             worst = std::max(worst, std::abs(colour[channel] - ChannelOf(pixel, channel)));
         }
+        return worst <= kHopeless;
     });
     return worst;
 }
@@ -212,9 +244,30 @@ std::optional<ZAMMathVector2D> ZAMPrintCairoRings::FindWay(const Pixels& pixels)
             const double off = (outer[channel] + inner[channel]) / 2.0 - ChannelOf(pixel, channel);
             equations.Add(slope * x, slope * y, off);
         }
+        return true;
     });
     const auto way = equations.Solve();
     return way ? std::optional(ZAMMathVector2D{way->x, way->y}) : std::nullopt;
+}
+
+/// No ring has an edge to the next: what looks like that is a dot, or a shape of few pixels.
+bool ZAMPrintCairoRings::IsSmooth() const {
+    const auto isEdge = [](const Colour& one, const Colour& other) {
+        return !std::ranges::equal(one, other, [](double a, double b) { return std::abs(a - b) <= kHopeless; });
+    };
+    return std::ranges::adjacent_find(_Rings, isEdge) == _Rings.end();
+}
+
+/// The rings differ by more than what a pixel of another picture could be off.
+bool ZAMPrintCairoRings::IsSeen() const {
+    for (std::size_t channel = 0; channel < kChannels; ++channel) {
+        const auto [least, most] = std::ranges::minmax(
+            _Rings | std::views::transform([channel](const Colour& ring) { return ring[channel]; }));
+        if (most - least >= kSmallestRange) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// From now on colours are not multiplied by their alpha; where nothing is seen of them they are as a neighbour's.

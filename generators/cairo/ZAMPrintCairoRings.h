@@ -16,6 +16,9 @@
 /// them. As such it takes a hundredth of the bytes that its pixels take, and is smooth at any size.
 class ZAMPrintCairoRings {
 public:
+    /// False when Find gives nothing without a look at the pixels.
+    [[nodiscard]] static bool AreSought(const ZAMPixelImage& image, double aspect);
+
     /// What every pixel of the picture agrees with, but for what rounding changes; nothing for any other picture. The
     /// aspect is a pixel's height divided by its width.
     [[nodiscard]] static std::optional<ZAMPrintCairoRings> Find(const ZAMPixelImage& image, double aspect);
@@ -34,6 +37,9 @@ private:
 
     ZAMPrintCairoRings(const Pixels& pixels, const ZAMMathPoint2D& centre);
 
+    [[nodiscard]] static std::optional<ZAMPrintCairoRings> FindAbout(const ZAMMathPoint2D& place, const Pixels& pixels);
+    [[nodiscard]] bool IsSmooth() const;
+    [[nodiscard]] bool IsSeen() const;
     [[nodiscard]] Colour At(double distance) const;
     [[nodiscard]] double FindError(const Pixels& pixels) const;
     [[nodiscard]] std::optional<ZAMMathVector2D> FindWay(const Pixels& pixels) const;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "generators/cairo/ZAMPrintCairoPictures.h"
 #include "tests/generators/cairo/Drawing.h"
 
 #include <algorithm>
@@ -8,10 +9,10 @@
 
 namespace {
 
-/// Rings about a place, from `inner` to `outer` in all channels, a pixel apart.
-ZAMRef<ZAMPixelImage> MakeRings(double x, double y, double inner, double outer) {
+/// Rings about a place, from `inner` to `outer` in all channels, a pixel apart, and `flatness` times as wide as high.
+ZAMRef<ZAMPixelImage> MakeRings(double x, double y, double inner, double outer, double flatness = 1.0) {
     return MakeImage(64, 64, [=](int column, int row) {
-        const double distance = std::min(std::hypot(column + 0.5 - x, row + 0.5 - y) / 40.0, 1.0);
+        const double distance = std::min(std::hypot(column + 0.5 - x, (row + 0.5 - y) * flatness) / 40.0, 1.0);
         const auto alpha = static_cast<std::uint32_t>(std::lround(inner + (outer - inner) * distance));
         return alpha << 24U | alpha / 2 << 16U | alpha;
     });
@@ -59,6 +60,14 @@ TEST(ZAMPrintCairoRings, OnlyRingsBecomeAGradient) {
         {"a pixel that differs", Spoil(rings, 0x0A000000U), 80.0, 1},
         {"stripes", MakeImage(64, 64, [](int x, int) { return 0x01000001U * static_cast<unsigned int>(2 * x + 90); }),
          80.0, 1},
+        {"a dot", MakeImage(17, 17, [](int x, int y) { return x == 8 && y == 8 ? 0xFF000000U : 0xFFFFFFFFU; }), 80.0,
+         1},
+        {"a faint rectangle",
+         MakeImage(64, 64, [](int x, int y) { return x > 20 && x < 40 && y > 9 ? 0xFFF3F3F3U : 0xFFF0F0F0U; }), 80.0,
+         1},
+        {"a faint checker", MakeImage(64, 64, [](int x, int y) { return (x / 8 + y / 8) % 2 == 0 ? 0x05000000U : 0U; }),
+         80.0, 1},
+        {"an ellipse", MakeRings(20.25, 37.5, 240.0, 40.0, 1.1), 80.0, 1},
         {"one colour", MakeImage(64, 64, [](int, int) { return 0x80008000U; }), 80.0, 1},
     };
     for (const auto& row : rows) {
@@ -84,4 +93,24 @@ TEST(ZAMPrintCairoRings, LookAsTheirPixelsDo) {
         EXPECT_LT(different, 2 * 77 * 3) << alpha;
         EXPECT_NE(smooth, pixels);
     }
+}
+
+TEST(ZAMPrintCairoRings, AreNotSoughtForever) {
+    // Each aspect of a shared picture is searched for itself; 32 large ones are enough.
+    const auto image = MakeImage(1024, 1024, [](int x, int y) {
+        const auto grey = static_cast<std::uint32_t>(std::lround(255.0 - std::hypot(x - 500.0, y - 400.0) / 5.0));
+        return 0xFF000000U | grey * 0x010101U;
+    });
+    ZAMPrintCairoPictures pictures(true);
+    const auto huge = MakeImage(1025, 1024, [](int, int) { return 0xFF000000U; });
+    for (int i = 0; i < 40; ++i) {
+        EXPECT_EQ(pictures.FindRings(huge, 1.0 + i * 0.01), nullptr);
+    }
+    EXPECT_NE(pictures.FindRings(image, 1.0), nullptr);
+    for (int i = 1; i < 32; ++i) {
+        EXPECT_EQ(pictures.FindRings(image, 1.5 + i * 0.01), nullptr) << i;
+    }
+    const auto same = MakeRings(20.25, 37.5, 240.0, 40.0);
+    EXPECT_EQ(pictures.FindRings(same, 1.0), nullptr);
+    EXPECT_NE(pictures.FindRings(image, 1.0), nullptr); // it is known already
 }
