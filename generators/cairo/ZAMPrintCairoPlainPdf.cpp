@@ -135,7 +135,11 @@ void ZAMPrintCairoPlainPdf::WritePage(const Page& page) {
     std::string resources;
     for (const int opacity : page.opacities) {
         const std::string share = ToText(opacity / 255.0);
-        resources += Format("/a%d<</CA ", opacity) + share + "/ca " + share + ">>";
+        resources += Format("/a%d<</CA ", opacity);
+        resources += share;
+        resources += "/ca ";
+        resources += share;
+        resources += ">>";
     }
     Add(Format("<</Type/Page/Parent %zu 0 R/MediaBox[0 0 ", kPageTree) + ToText(page.width) + " " +
         ToText(page.height) + Format("]/Contents %zu 0 R/Resources<<", _Objects.size() + 1));

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace {
 
@@ -261,9 +260,9 @@ bool ZAMPrintCairoRings::IsSmooth() const {
 /// The rings differ by more than what a pixel of another picture could be off.
 bool ZAMPrintCairoRings::IsSeen() const {
     for (std::size_t channel = 0; channel < kChannels; ++channel) {
-        const auto [least, most] = std::ranges::minmax(
-            _Rings | std::views::transform([channel](const Colour& ring) { return ring[channel]; }));
-        if (most - least >= kSmallestRange) {
+        const auto valueOf = [channel](const Colour& ring) { return ring[channel]; };
+        const auto [least, most] = std::ranges::minmax_element(_Rings, {}, valueOf);
+        if (valueOf(*most) - valueOf(*least) >= kSmallestRange) {
             return true;
         }
     }
