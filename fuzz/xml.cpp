@@ -20,7 +20,7 @@ void Walk(const ZAMLightXmlElement& element, int depth) {
             std::abort(); // a document with an attribute twice is none
         }
     }
-    element.GetTextContent();
+    static_cast<void>(element.GetTextContent());
     for (ZAMLightXmlPosition position = element.GetFirstChildPosition(); position != 0;) {
         Walk(element.GetNextChild(position), depth + 1);
     }
