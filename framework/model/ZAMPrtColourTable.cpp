@@ -3,7 +3,8 @@
 
 namespace {
 
-constexpr std::size_t kFewestSlots = 16;
+constexpr std::size_t kFewestChains = 16;
+constexpr std::uint32_t kEnd = 0;
 
 constexpr std::size_t HashOf(const ZAMPrtColourTable::Colour& colour) {
     const std::uint32_t key = std::uint32_t{colour.red} << 16U | std::uint32_t{colour.green} << 8U | colour.blue;
@@ -13,29 +14,37 @@ constexpr std::size_t HashOf(const ZAMPrtColourTable::Colour& colour) {
 
 } // namespace
 
-std::size_t ZAMPrtColourTable::FindSlot(const Colour& colour) const {
-    const std::size_t mask = _Slots.size() - 1;
-    std::size_t slot = HashOf(colour) & mask;
-    while (_Slots[slot] != 0 && _Colours[_Slots[slot] - 1] != colour) {
-        slot = (slot + 1) & mask;
+// Chains and not open addressing: of the 2^24 colours only so many fall to one chain, whichever a document chooses.
+std::uint32_t ZAMPrtColourTable::FindFirst(const Colour& colour) const {
+    std::uint32_t first = _Chains.empty() ? kEnd : _Chains[HashOf(colour) & (_Chains.size() - 1)];
+    while (first != kEnd && _Colours[first - 1] != colour) {
+        first = _Next[first - 1];
     }
-    return slot;
+    return first;
+}
+
+void ZAMPrtColourTable::Link(std::uint32_t first) {
+    std::uint32_t& chain = _Chains[HashOf(_Colours[first - 1]) & (_Chains.size() - 1)];
+    _Next[first - 1] = chain;
+    chain = first;
 }
 
 void ZAMPrtColourTable::Grow() {
-    std::vector<std::uint32_t> slots(_Slots.empty() ? kFewestSlots : 2 * _Slots.size());
-    slots.swap(_Slots);
-    for (const std::uint32_t used : slots) {
-        if (used != 0) {
-            _Slots[FindSlot(_Colours[used - 1])] = used;
+    std::vector<std::uint32_t> chains(_Chains.empty() ? kFewestChains : 2 * _Chains.size(), kEnd);
+    chains.swap(_Chains);
+    for (std::uint32_t first : chains) {
+        while (first != kEnd) {
+            const std::uint32_t next = _Next[first - 1];
+            Link(first);
+            first = next;
         }
     }
 }
 
 int ZAMPrtColourTable::FindColour(unsigned int& index, unsigned char red, unsigned char green,
                                   unsigned char blue) const {
-    const std::uint32_t first = _Slots.empty() ? 0 : _Slots[FindSlot({red, green, blue})];
-    if (first == 0) {
+    const std::uint32_t first = FindFirst({red, green, blue});
+    if (first == kEnd) {
         return 0;
     }
     index = first - 1;
@@ -43,16 +52,16 @@ int ZAMPrtColourTable::FindColour(unsigned int& index, unsigned char red, unsign
 }
 
 int ZAMPrtColourTable::AddColour(unsigned char red, unsigned char green, unsigned char blue, unsigned int& index) {
-    if (2 * (_UsedSlots + 1) >= _Slots.size()) {
+    const Colour colour{red, green, blue};
+    const bool isFirst = FindFirst(colour) == kEnd;
+    if (_Colours.size() >= _Chains.size()) {
         Grow();
     }
-    const Colour colour{red, green, blue};
-    const std::size_t slot = FindSlot(colour);
+    _Next.resize(_Colours.size() + 1, kEnd);
     _Colours.push_back(colour);
     index = static_cast<unsigned int>(_Colours.size() - 1);
-    if (_Slots[slot] == 0) {
-        _Slots[slot] = index + 1;
-        ++_UsedSlots;
+    if (isFirst) {
+        Link(index + 1);
     }
     return 1;
 }

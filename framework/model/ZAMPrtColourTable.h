@@ -30,13 +30,12 @@ public:
     [[nodiscard]] std::span<const Colour> GetColours() const { return _Colours; }
 
 private:
-    // The slot of the colour's first index, or the free one where it belongs.
-    [[nodiscard]] std::size_t FindSlot(const Colour& colour) const;
+    // Places in the list are counted from 1 here; 0 is the end of a chain.
+    [[nodiscard]] std::uint32_t FindFirst(const Colour& colour) const;
+    void Link(std::uint32_t first);
     void Grow();
 
     std::vector<Colour> _Colours;
-    // First indices, counted from 1, each at its colour's hash or in one of the slots that follow; 0 is free. A power
-    // of two, and more than half of them are free.
-    std::vector<std::uint32_t> _Slots;
-    std::size_t _UsedSlots = 0;
+    std::vector<std::uint32_t> _Next;   // for each colour, the one that follows it in its chain
+    std::vector<std::uint32_t> _Chains; // first places by the hash of their colour; a power of two, as many as colours
 };

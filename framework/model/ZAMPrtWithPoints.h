@@ -13,9 +13,10 @@
 /// Gives an element class a list of points, on top of the attributes of `Base`. Copies of the element share the list.
 template <class Base> class ZAM_EXPORT ZAMPrtWithPoints : public Base {
 public:
-    /// Copies `count` points; fewer than one leave the element without points.
+    /// Copies `count` points, which may be the element's own; fewer than one leave it without points.
     void SetPoints(const ZAMMathPoint2D* points, int count) {
         const std::size_t copied = points == nullptr || count < 1 ? 0 : static_cast<std::size_t>(count);
+        const auto own = _Points; // kept until they are copied
         std::copy_n(points, copied, NewPoints(copied).begin());
     }
     /// Gives the element a new list of `count` points, for the caller to fill before anybody reads or copies it.

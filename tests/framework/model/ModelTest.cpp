@@ -288,6 +288,16 @@ TEST(ContainerTest, NothingCyclicOrTooHighIsTaken) {
     EXPECT_TRUE(tooHigh->GetChildren().empty());
 }
 
+TEST(ElementTest, TakesItsOwnPointsAgain) {
+    const auto polygon = ZAMNew<ZAMPrtPolygonElt>();
+    const ZAMMathPoint2D points[] = {{1, 2}, {3, 4}, {5, 6}};
+    polygon->SetPoints(points, 3);
+    polygon->SetPoints(polygon->GetPoints().data() + 1, 2);
+    ASSERT_EQ(polygon->GetPoints().size(), 2U);
+    EXPECT_EQ(polygon->GetPoints()[0], points[1]);
+    EXPECT_EQ(polygon->GetPoints()[1], points[2]);
+}
+
 TEST(ElementTest, ADuplicateSharesNoElement) {
     const Group group = ZAMNew<ZAMPrtGroupElt>();
     const Group inner = ZAMNew<ZAMPrtGroupElt>();
