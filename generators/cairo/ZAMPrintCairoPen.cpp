@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -111,7 +112,7 @@ void ZAMPrintCairoPen::Stroke(cairo_t* context, double walked) const {
     cairo_set_line_cap(context, _Cap);
     cairo_set_line_join(context, _Join);
     cairo_set_miter_limit(context, ZAMPrintPen::kMiterLimit);
-    const double phase = IsDashed() && std::isfinite(walked) ? std::fmod(walked, _Period) : 0.0;
+    const double phase = IsDashed() && std::isfinite(walked) ? std::fmod(_DashOffset + walked, _Period) : 0.0;
     cairo_set_dash(context, _Dashes.data(), static_cast<int>(_Dashes.size()), phase);
     ZAMPrintCairoColour::SetSource(context, _Colour);
     cairo_stroke(context);
@@ -131,5 +132,43 @@ void ZAMPrintCairoPen::ReadDashes(std::span<const float> dashes, double scale) {
     _Period = std::accumulate(_Dashes.begin(), _Dashes.end(), 0.0) * (dashes.size() % 2 == 0 ? 1.0 : 2.0);
     if (_Period < ZAMPrintCairoLimits::kShortestPeriod) {
         MakeSolid();
+    } else if (_Cap == CAIRO_LINE_CAP_BUTT) {
+        LeaveOutDots();
     }
+}
+
+/// Without ends a dash of no length is nothing, but some readers of PDF and PostScript draw a hair across the line. The
+/// gaps on its two sides become one.
+void ZAMPrintCairoPen::LeaveOutDots() {
+    constexpr double kShortest = 1e-6; // what files are written with
+    const std::size_t count = _Dashes.size();
+    const auto isDot = [&](std::size_t i) { return _Dashes[i % count] < kShortest; };
+    const std::size_t steps = count % 2 == 0 ? count : 2 * count;
+    std::size_t first = 0;
+    bool hasDots = false;
+    for (std::size_t i = steps; i > 0; i -= 2) {
+        hasDots = hasDots || isDot(i - 2);
+        first = isDot(i - 2) ? first : i - 2;
+    }
+    if (!hasDots) {
+        return;
+    }
+    if (isDot(first)) { // all of them
+        _Width = 0.0;
+        return;
+    }
+    std::vector<double> dashes;
+    for (std::size_t i = first; i < first + steps; i += 2) {
+        const double gap = _Dashes[(i + 1) % count];
+        if (isDot(i)) {
+            dashes.back() += _Dashes[i % count] + gap;
+        } else {
+            dashes.insert(dashes.end(), {_Dashes[i % count], gap});
+        }
+    }
+    for (std::size_t i = 0; i < first; ++i) {
+        _DashOffset -= _Dashes[i % count];
+    }
+    _DashOffset = first == 0 ? 0.0 : _DashOffset + _Period;
+    _Dashes = std::move(dashes);
 }

@@ -30,6 +30,8 @@ public:
     [[nodiscard]] const ZAMMath2x2Matrix& GetToDevice() const { return _ToDevice; }
     [[nodiscard]] const ZAMMath2x2Matrix& GetFromDevice() const { return _FromDevice; }
     [[nodiscard]] const std::vector<double>& GetDashes() const { return _Dashes; }
+    /// How far into the dashes a path begins, in pen units.
+    [[nodiscard]] double GetDashOffset() const { return _DashOffset; }
     [[nodiscard]] bool IsOpaque() const { return _Colour.alpha == 255; }
     /// How far from its path a mark can reach, in device units.
     [[nodiscard]] double GetReach() const;
@@ -50,6 +52,7 @@ public:
 
 private:
     void ReadDashes(std::span<const float> dashes, double scale);
+    void LeaveOutDots();
 
     ZAMPrintColour _Colour;
     cairo_line_cap_t _Cap;
@@ -59,5 +62,6 @@ private:
     double _Width = 0.0;
     bool _IsRound = true;
     std::vector<double> _Dashes;
+    double _DashOffset = 0.0;
     double _Period = 0.0;
 };

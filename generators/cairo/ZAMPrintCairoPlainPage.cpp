@@ -13,9 +13,6 @@ namespace {
 
 constexpr ZAMMath2x2Matrix kAsIs{1.0, 0.0, 0.0, 1.0};
 
-// The shortest length that is written with six decimals.
-constexpr double kShortest = 1e-6;
-
 /// So many that the page could be shown 12,000 pixels wide before a reader could see that there are no more. A
 /// hundredth of a point is finer than any printer.
 int CountDecimals(double width, double height) {
@@ -26,6 +23,23 @@ int CountDecimals(double width, double height) {
         ++decimals;
     }
     return decimals;
+}
+
+/// A wide pen follows the direction of each line, which rounding turns the more the shorter the line is: whether many
+/// are so short that it would show at the pen's sides, or in the lengths that dashes are measured by.
+bool NeedsFinerPlaces(const ZAMPrintPath& path, const ZAMPrintCairoPen& pen) {
+    constexpr double kWidthsForShort = 0.05;
+    constexpr double kShortForDashes = 0.2;
+    constexpr std::size_t kSharesForMany = 4;
+    const double bound = std::max(pen.GetWidth() * kWidthsForShort, pen.IsDashed() ? kShortForDashes : 0.0);
+    const auto points = path.GetPoints();
+    std::size_t shortLines = 0;
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        const double x = std::abs(points[i].x - points[i - 1].x);
+        const double y = std::abs(points[i].y - points[i - 1].y);
+        shortLines += x < bound && y < bound && (x > 0.0 || y > 0.0) ? 1 : 0;
+    }
+    return shortLines * kSharesForMany > points.size();
 }
 
 ZAMPrintPath MakeRectangle(const ZAMMathBox2D& box) {
@@ -49,7 +63,7 @@ bool Contains(const ZAMMathBox2D& outer, const ZAMMathBox2D& inner) {
 } // namespace
 
 ZAMPrintCairoPlainPage::ZAMPrintCairoPlainPage(double width, double height)
-    : _Page{0.0, 0.0, width, height}, _Path(_Text, CountDecimals(width, height)) {
+    : _Page{0.0, 0.0, width, height}, _Decimals(CountDecimals(width, height)), _Path(_Text) {
     // PDF counts upward.
     for (const double number : {1.0, 0.0, 0.0, -1.0, 0.0, height}) {
         _Text.AddNumber(number);
@@ -102,8 +116,8 @@ void ZAMPrintCairoPlainPage::DrawPath(const ZAMPrintPath& path, const ZAMMathAff
         return;
     }
     WriteClips();
-    // What has no area has nothing to fill; a reader would paint a hair.
-    const bool fillsArea = fills && _Box.Width() > 0.0 && _Box.Height() > 0.0;
+    _PathDecimals = strokes && NeedsFinerPlaces(_Device.GetPath(), *stroke) ? _Decimals + 2 : _Decimals;
+    const bool fillsArea = fills && HasWrittenArea();
     if (fillsArea && strokes && stroke->IsRound() && stroke->IsOpaque() && fill->colour.alpha == 255) {
         SetColour(_State.fill, fill->colour, "rg");
         Stroke(*stroke, fill->rule == ZAMPrtFillRule::EvenOdd ? "B*" : "B");
@@ -144,22 +158,29 @@ void ZAMPrintCairoPlainPage::WriteClips() {
             clip.isWritten = true;
             clip.outside = _State;
             _Text.AddWord("q");
-            _Path.Write(clip.path, kAsIs, true);
+            _Path.Write(clip.path, kAsIs, true, _Decimals);
             _Text.AddWord("W n");
         }
     }
 }
 
+/// What has no area as it is written has nothing to fill; a reader would paint a hair.
+bool ZAMPrintCairoPlainPage::HasWrittenArea() const {
+    const double units = std::pow(10.0, _PathDecimals);
+    const auto differ = [units](double a, double b) { return std::round(a * units) != std::round(b * units); };
+    return differ(_Box.xMin, _Box.xMax) && differ(_Box.yMin, _Box.yMax);
+}
+
 void ZAMPrintCairoPlainPage::Fill(const ZAMPrintFill& fill) {
     SetColour(_State.fill, fill.colour, "rg");
-    _Path.Write(_Device.GetPath(), kAsIs, true);
+    _Path.Write(_Device.GetPath(), kAsIs, true, _PathDecimals);
     _Text.AddWord(fill.rule == ZAMPrtFillRule::EvenOdd ? "f*" : "f");
 }
 
 void ZAMPrintCairoPlainPage::Stroke(const ZAMPrintCairoPen& pen, std::string_view word) {
     SetColour(_State.stroke, pen.GetColour(), "RG");
     SetPen(pen);
-    _Path.Write(_Device.GetPath(), kAsIs, false);
+    _Path.Write(_Device.GetPath(), kAsIs, false, _PathDecimals);
     _Text.AddWord(word);
 }
 
@@ -174,7 +195,7 @@ void ZAMPrintCairoPlainPage::StrokeShaped(const ZAMPrintCairoPen& pen) {
         _Text.AddFixed(std::llround(number * 1e12), 12);
     }
     _Text.AddWord("cm");
-    _Path.Write(_Device.GetPath(), pen.GetFromDevice(), false);
+    _Path.Write(_Device.GetPath(), pen.GetFromDevice(), false, _PathDecimals);
     _Text.AddWord("S");
     _Text.AddWord("Q");
 }
@@ -222,25 +243,21 @@ void ZAMPrintCairoPlainPage::SetPen(const ZAMPrintCairoPen& pen) {
         _Text.AddWord("M");
         _State.hasMiterLimit = true;
     }
-    std::vector<double> dashes = pen.GetDashes();
-    if (pen.GetCap() == CAIRO_LINE_CAP_BUTT) {
-        // Without ends there is nothing of them to see.
-        std::ranges::replace_if(
-            dashes, [](double dash) { return dash < kShortest; }, 0.0);
-    }
-    if (dashes != _State.dashes) {
+    if (pen.GetDashes() != _State.dashes || pen.GetDashOffset() != _State.dashOffset) {
         _Text.AddWord("[");
-        std::ranges::for_each(dashes, [this](double dash) { AddLength(dash); });
+        std::ranges::for_each(pen.GetDashes(), [this](double dash) { AddLength(dash); });
         _Text.AddWord("]");
-        _Text.AddFixed(0, 0);
+        AddLength(pen.GetDashOffset());
         _Text.AddWord("d");
-        _State.dashes = std::move(dashes);
+        _State.dashes = pen.GetDashes();
+        _State.dashOffset = pen.GetDashOffset();
     }
 }
 
 /// With three significant digits more than none; what is no length at all would be a hair.
 void ZAMPrintCairoPlainPage::AddLength(double length) {
     constexpr double kCoarse = 0.1;
+    constexpr double kShortest = 1e-6; // that six decimals write
     if (length >= kCoarse) {
         _Text.AddFixed(std::llround(length * 1e4), 4);
     } else {

@@ -46,6 +46,7 @@ private:
         cairo_line_join_t join = CAIRO_LINE_JOIN_MITER;
         bool hasMiterLimit = false;
         std::vector<double> dashes;
+        double dashOffset = 0.0;
     };
     struct Clip {
         enum class Kind { Everything, Nothing, Path };
@@ -58,6 +59,7 @@ private:
     [[nodiscard]] bool Assign(const ZAMPrintPath& path, const ZAMMathAffine2D& toPage);
     [[nodiscard]] bool IsHidden() const;
     [[nodiscard]] bool Shows(double reach) const;
+    [[nodiscard]] bool HasWrittenArea() const;
     void WriteClips();
     void Fill(const ZAMPrintFill& fill);
     void Stroke(const ZAMPrintCairoPen& pen, std::string_view word);
@@ -69,9 +71,11 @@ private:
 
     ZAMMathBox2D _Page;
     ZAMPrintCairoPlainText _Text;
+    int _Decimals; ///< of coordinates
     ZAMPrintCairoPlainPath _Path;
     ZAMPrintCairoDevicePath _Device; ///< of the mark that is being drawn
     ZAMMathBox2D _Box;               ///< and what it reaches
+    int _PathDecimals = 0;           ///< and how it is written
     State _State;
     std::vector<Clip> _Clips;
     std::set<int> _Opacities;

@@ -9,10 +9,9 @@
 
 using Verb = ZAMPrintPath::Verb;
 
-ZAMPrintCairoPlainPath::ZAMPrintCairoPlainPath(ZAMPrintCairoPlainText& text, int decimals)
-    : _Text(text), _Decimals(decimals), _Units(std::pow(10.0, decimals)) {}
-
-void ZAMPrintCairoPlainPath::Write(const ZAMPrintPath& path, const ZAMMath2x2Matrix& map, bool fills) {
+void ZAMPrintCairoPlainPath::Write(const ZAMPrintPath& path, const ZAMMath2x2Matrix& map, bool fills, int decimals) {
+    _Decimals = decimals;
+    _Units = std::pow(10.0, decimals);
     _Map = map;
     _Fills = fills;
     if (WriteRectangle(path)) {

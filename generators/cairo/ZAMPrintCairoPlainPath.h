@@ -12,11 +12,11 @@
 /// the same.
 class ZAMPrintCairoPlainPath {
 public:
-    /// Coordinates get so many decimals.
-    ZAMPrintCairoPlainPath(ZAMPrintCairoPlainText& text, int decimals);
+    explicit ZAMPrintCairoPlainPath(ZAMPrintCairoPlainText& text) : _Text(text) {}
 
-    /// `fills`: the path is only filled or clipped with, which needs no closing. The map shapes the path.
-    void Write(const ZAMPrintPath& path, const ZAMMath2x2Matrix& map, bool fills);
+    /// `fills`: the path is only filled or clipped with, which needs no closing. The map shapes the path; its
+    /// coordinates get so many decimals.
+    void Write(const ZAMPrintPath& path, const ZAMMath2x2Matrix& map, bool fills, int decimals);
 
 private:
     // A point in units of the last decimal.
@@ -36,8 +36,8 @@ private:
     void CubicTo(const ZAMMathPoint2D* points, ZAMPrintPath::Verb next);
 
     ZAMPrintCairoPlainText& _Text;
-    int _Decimals;
-    double _Units; ///< to the point
+    int _Decimals = 0;
+    double _Units = 1.0; ///< to the point
     ZAMMath2x2Matrix _Map;
     bool _Fills = false;
     ZAMMathPoint2D _Origin; ///< where the contour starts, as it was given

@@ -2,9 +2,11 @@
 #include "tests/generators/cairo/Drawing.h"
 
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <random>
 #include <sstream>
+#include <vector>
 
 namespace {
 
@@ -77,6 +79,7 @@ std::string Show(const std::string& pdf, int page = 1) {
 TEST(ZAMPrintCairoPlain, WritesEachMarkInItsShortestForm) {
     const ZAMPrintFill black{{0, 0, 0, 255}};
     const ZAMPrintFill faint{{255, 0, 51, 128}};
+    const ZAMPrintPen fine = MakePen(0.001);
     const ZAMPrintPen thin = MakePen(1.0);
     const ZAMPrintPen thick = MakePen(2.5);
     const struct {
@@ -95,13 +98,16 @@ TEST(ZAMPrintCairoPlain, WritesEachMarkInItsShortestForm) {
         // A line too short to tell keeps its ends, and the way that they point.
         {"M 1 1 L 1 1 L 2 2", &black, &thin, " 4 M 1 1 m 2 2 l B "},
         {"M 1 1 L 1 1", nullptr, &thin, " 4 M 1 1 m 1 1 l S "},
-        {"M 1 1 L 1.0002 1.0001 L 1.0001 1 M 5 5 L 5.0001 4.9997", nullptr, &thin,
-         " 4 M 1 1 m 1.001 1 l 5 5 m 5 4.999 l S "},
-        {"M 1 1 C 1 1 1 1.0001 1 1.0002", nullptr, &thin, " 4 M 1 1 m 1 1.001 l S "},
-        {"M 1 1 L 1.0002 1 Z", nullptr, &thin, " 4 M 1 1 m 1 1 l h S "},
+        {"M 1 1 L 1.0002 1.0001 L 1.0001 1 M 5 5 L 5.0001 4.9997", nullptr, &fine,
+         " .001 w 4 M 1 1 m 1.001 1 l 5 5 m 5 4.999 l S "},
+        {"M 1 1 C 1 1 1 1.0001 1 1.0002", nullptr, &fine, " .001 w 4 M 1 1 m 1 1.001 l S "},
+        {"M 1 1 L 1.0002 1 Z", nullptr, &fine, " .001 w 4 M 1 1 m 1 1 l h S "},
+        // For a wide pen their direction counts.
+        {"M 1 1 L 1.0002 1.0001 L 1.0001 1", nullptr, &thin, " 4 M 1 1 m 1.0002 1.0001 l 1.0001 1 l S "},
         {"M 1 1 L 9 1 L 5 5", &faint, nullptr, " /a128 gs 1 0 .2 rg 1 1 m 9 1 l 5 5 l f "},
         // Nothing to see.
         {"M 1 1 L 9 1", &black, nullptr, " "},
+        {"M 1 1 L 9 1 L 9 1.0002 L 1 1.0002 Z", &black, nullptr, " "},
         {"M 200 200 L 300 300 L 200 300 Z", &black, &thin, " "},
     };
     for (const auto& row : rows) {
@@ -120,16 +126,60 @@ TEST(ZAMPrintCairoPlain, PensThatAreNoCirclesKeepTheirPaths) {
     EXPECT_EQ(ContentOf(pdf), " 4 M q 1 0 0 .0010004999 0 0 cm 20 20000 m 80 80000 l S Q ");
 }
 
-TEST(ZAMPrintCairoPlain, DashesOfAlmostNoLengthAreSeenByTheirEnds) {
-    const float dashes[] = {1e-8F, 5.0F};
-    ZAMPrintPen pen = MakePen(1.0);
-    pen.dashes = dashes;
-    const auto draw = [&](auto& g) {
-        g.DrawPath(MakePath("M 1 1 L 9 1"), {}, nullptr, &pen);
-        pen.cap = ZAMPrintLineAttribute::CapRound;
-        g.DrawPath(MakePath("M 1 1 L 9 1"), {}, nullptr, &pen);
+TEST(ZAMPrintCairoPlain, DashesOfAlmostNoLengthAreSeenByTheirEndsAlone) {
+    constexpr auto kButt = ZAMPrintLineAttribute::CapButt;
+    constexpr auto kRound = ZAMPrintLineAttribute::CapRound;
+    const struct {
+        std::vector<float> dashes;
+        ZAMPrintLineAttribute cap;
+        const char* content;
+    } rows[] = {
+        {{1e-8F, 5}, kRound, " 1 J 4 M [.000001 5] 0 d 1 1 m 9 1 l S "},
+        {{1e-8F, 5}, kButt, " "},
+        {{0, 4, 16, 4}, kButt, " 4 M [16 8] 20 d 1 1 m 9 1 l S "},
+        {{16, 4, 0, 4}, kButt, " 4 M [16 8] 0 d 1 1 m 9 1 l S "},
+        {{0, 1, 0, 2, 3, 4, 5, 0}, kButt, " 4 M [3 4 5 3] 12 d 1 1 m 9 1 l S "},
+        {{0, 4, 16}, kButt, " 4 M [16 0 4 20] 36 d 1 1 m 9 1 l S "}, // twice around: its dashes and gaps swap
+        {{0, 3, 0}, kButt, " 4 M [3 3] 3 d 1 1 m 9 1 l S "},
+        {{2, 3, 1}, kButt, " 4 M [2 3 1] 0 d 1 1 m 9 1 l S "},
     };
-    EXPECT_EQ(ContentOf(DrawPdf(draw)), " 4 M [0 5] 0 d 1 1 m 9 1 l S 1 J [.000001 5] 0 d 1 1 m 9 1 l S ");
+    for (const auto& row : rows) {
+        ZAMPrintPen pen = MakePen(1.0);
+        pen.cap = row.cap;
+        pen.dashes = row.dashes;
+        EXPECT_EQ(ContentOf(DrawPdf([&](auto& g) { g.DrawPath(MakePath("M 1 1 L 9 1"), {}, nullptr, &pen); })),
+                  row.content);
+    }
+}
+
+// A wide pen shows how a line's direction is rounded, dashes how its length is.
+TEST(ZAMPrintCairoPlain, FineCirclesOfWidePensAreRound) {
+    ZAMPrintPath circle;
+    constexpr int kCorners = 36000;
+    for (int i = 0; i < kCorners; ++i) {
+        const double angle = 6.283185307179586 * i / kCorners;
+        const ZAMMathPoint2D point{50.0 + 20.0 * std::cos(angle), 50.0 + 20.0 * std::sin(angle)};
+        i == 0 ? circle.MoveTo(point) : circle.LineTo(point);
+    }
+    circle.ClosePath();
+    const float dashes[] = {6.0F, 6.0F};
+    for (const double width : {20.0, 0.5}) {
+        ZAMPrintPen pen = MakePen(width);
+        pen.dashes = width < 1.0 ? std::span<const float>(dashes) : std::span<const float>();
+        const std::string plain = DrawPdf([&](auto& g) { g.DrawPath(circle, {}, nullptr, &pen); });
+        // In units a thousand times larger there is nothing to round.
+        const std::string exact = DrawPdf([&](auto& g) {
+            pen.width *= 1000.0;
+            const float large[] = {6000.0F, 6000.0F};
+            pen.dashes = pen.dashes.empty() ? pen.dashes : std::span<const float>(large);
+            ZAMPrintPath arcs =
+                MakePath("M 70000 50000 C 70000 61046 61046 70000 50000 70000 C 38954 70000 30000 61046 "
+                         "30000 50000 C 30000 38954 38954 30000 50000 30000 C 61046 30000 70000 38954 "
+                         "70000 50000 Z");
+            g.DrawPath(arcs, {0.001, 0.0, 0.0, 0.001, 0.0, 0.0}, nullptr, &pen);
+        });
+        EXPECT_LT(Differ(Show(plain), Show(exact)), 0.0005) << width;
+    }
 }
 
 TEST(ZAMPrintCairoPlain, ClipsEndWithWhatWasSetInThem) {
