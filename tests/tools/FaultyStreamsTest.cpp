@@ -47,6 +47,13 @@ TEST_F(FaultyStreamsTest, AReaderThatGoesAwayInTheMiddleIsAnError) {
     }
 }
 
+TEST_F(FaultyStreamsTest, AnInputThatDoesNotWaitIsWaitedFor) {
+    Write("in.svg", MakeLarge());
+    const RunResult run =
+        Shell("{ sleep 0.2; cat in.svg; } | { python3 -c 'import os; os.set_blocking(0, False)'; $Z -o out; }");
+    EXPECT_EQ(run.status, 0) << run.err;
+}
+
 TEST_F(FaultyStreamsTest, WhatCannotBeReadToItsEndIsAnError) {
     for (const std::string format : kFormats) {
         // A folder can be opened, but not read.

@@ -8,6 +8,7 @@
 #include <limits>
 #include <memory>
 #include <new>
+#include <utility>
 #include <zlib.h>
 
 namespace {
@@ -33,21 +34,22 @@ public:
     ~Inflater() { inflateEnd(&_Stream); }
 
     std::string Run() {
-        std::string content;
         do {
-            ReadMember(content);
+            ReadMember();
             inflateReset(&_Stream);
         } while (IsCompressed(_Bytes)); // what else follows is padding
-        return content;
+        _Content.resize(_Size);
+        return std::move(_Content);
     }
 
 private:
-    void ReadMember(std::string& content) {
+    void ReadMember() {
         for (int status = Z_OK; status != Z_STREAM_END;) {
-            const std::size_t size = content.size();
-            content.resize(std::clamp<std::size_t>(2 * size, 65536, std::min(_MostBytes, _MostByRatio) + 1));
-            status = Inflate(content, size);
-            CheckSize(content.size());
+            if (_Size == _Content.size()) {
+                _Content.resize(std::clamp<std::size_t>(2 * _Size, 65536, std::min(_MostBytes, _MostByRatio) + 1));
+            }
+            status = Inflate();
+            CheckSize(_Size);
         }
     }
 
@@ -62,13 +64,13 @@ private:
         }
     }
 
-    // Appends behind `size`, to what room there is.
-    int Inflate(std::string& content, std::size_t size) {
+    // Appends to what room there is.
+    int Inflate() {
         constexpr std::size_t kMostAtOnce = std::numeric_limits<uInt>::max();
         _Stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(_Bytes.data())); // it is only read
         _Stream.avail_in = static_cast<uInt>(std::min(_Bytes.size(), kMostAtOnce));
-        _Stream.next_out = reinterpret_cast<Bytef*>(content.data() + size);
-        _Stream.avail_out = static_cast<uInt>(content.size() - size);
+        _Stream.next_out = reinterpret_cast<Bytef*>(_Content.data() + _Size);
+        _Stream.avail_out = static_cast<uInt>(_Content.size() - _Size);
         const uInt given = _Stream.avail_in;
         const int status = inflate(&_Stream, Z_NO_FLUSH);
         if (status == Z_MEM_ERROR) {
@@ -78,12 +80,14 @@ private:
             Fail(_Name, status == Z_BUF_ERROR ? "the compressed data is cut short" : "the compressed data is damaged");
         }
         _Bytes.remove_prefix(given - _Stream.avail_in);
-        content.resize(content.size() - _Stream.avail_out);
+        _Size = _Content.size() - _Stream.avail_out;
         return status;
     }
 
     z_stream _Stream{};
     std::string_view _Bytes; // that are still to be read
+    std::string _Content;    // with room behind what there is of it
+    std::size_t _Size = 0;
     const std::string& _Name;
     std::size_t _MostBytes;
     std::size_t _MostByRatio;

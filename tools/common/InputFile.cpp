@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -45,6 +46,10 @@ int ReadAll(int descriptor, std::string& content) {
         } else if (count == 0) {
             content.resize(size);
             return 0;
+        } else if (errno == EAGAIN) {
+            // Whoever gave us the descriptor made it non-blocking: wait for more.
+            pollfd more = {descriptor, POLLIN, 0};
+            poll(&more, 1, -1);
         } else if (errno != EINTR) {
             return errno;
         }
