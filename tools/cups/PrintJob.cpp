@@ -39,6 +39,9 @@ std::string PrintJob(const FilterJob& job) {
     ZAMPrintCairoGenerator generator(ZAMPrintCairoGenerator::Format::Pdf, pdf);
     PagePrinter printer(generator, options);
     const auto refuseSpent = [&] {
+        if (budget.HasLongPath()) {
+            Fail(document, "has a path of too many commands");
+        }
         if (budget.IsSpent()) {
             Fail(document, "reuses too many elements");
         }
