@@ -184,14 +184,15 @@ def _written(path, make):
 
 def _collected(name, folder, cache, count):
     """`count` files of a collection, evenly spread, with names that do not clash."""
-    target = folder / name
+    target = folder / f'{name}-{count}'
     if not target.is_dir():
         found = drawings.find(name, cache)
-        count = min(count, len(found))
+        taken = min(count, len(found))
         fresh = folder / f'{name}.new'
-        fresh.mkdir(exist_ok=True)
-        for place in range(count):
-            shutil.copyfile(found[place * len(found) // count], fresh / f'{place:05}.svg')
+        shutil.rmtree(fresh, ignore_errors=True)
+        fresh.mkdir()
+        for place in range(taken):
+            shutil.copyfile(found[place * len(found) // taken], fresh / f'{place:05}.svg')
         fresh.rename(target)
     return target
 

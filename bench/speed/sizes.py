@@ -43,8 +43,8 @@ def table(zamprint, material, count, jobs):
     totals = [0, 0, 0]
     for name in COLLECTIONS:
         folder = material.collection(name, count)
-        ours = our_sizes(zamprint, folder, material.folder / f'{name}-{folder.name}-ours')
-        theirs = _peer_sizes(folder, material.folder / f'{name}-peer', jobs)
+        ours = our_sizes(zamprint, folder, material.folder / f'{folder.name}-ours')
+        theirs = _peer_sizes(folder, material.folder / f'{folder.name}-peer', jobs)
         both = [(ours[stem], theirs[stem]) for stem in ours if theirs.get(stem)]
         sums = [len(both), *map(sum, zip(*both))]
         totals = [a + b for a, b in zip(totals, sums)]
