@@ -2,6 +2,7 @@
 #pragma once
 
 #include "framework/base/ZAMExport.h"
+#include "framework/mathematics/ZAMMathBox2D.h"
 #include "framework/mathematics/ZAMMathPoint2D.h"
 
 #include <cstddef>
@@ -19,6 +20,17 @@ public:
         CubicTo,  ///< 3 points: two control points, the end point
         ClosePath ///< none
     };
+
+    /// The closed outline of a box, from its least corner along x.
+    static ZAMPrintPath OfBox(const ZAMMathBox2D& box) {
+        ZAMPrintPath path;
+        path.MoveTo({box.xMin, box.yMin});
+        path.LineTo({box.xMax, box.yMin});
+        path.LineTo({box.xMax, box.yMax});
+        path.LineTo({box.xMin, box.yMax});
+        path.ClosePath();
+        return path;
+    }
 
     void MoveTo(const ZAMMathPoint2D& point) { Append(Verb::MoveTo, point); }
     void LineTo(const ZAMMathPoint2D& point) { Append(Verb::LineTo, point); }

@@ -45,16 +45,6 @@ void SetFillRule(cairo_t* context, ZAMPrtFillRule rule) {
     cairo_set_fill_rule(context, rule == ZAMPrtFillRule::EvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
 }
 
-ZAMPrintPath MakeRectangle(const ZAMMathBox2D& box) {
-    ZAMPrintPath path;
-    path.MoveTo({box.xMin, box.yMin});
-    path.LineTo({box.xMax, box.yMin});
-    path.LineTo({box.xMax, box.yMax});
-    path.LineTo({box.xMin, box.yMax});
-    path.ClosePath();
-    return path;
-}
-
 } // namespace
 
 ZAMPrintCairoCanvas::ZAMPrintCairoCanvas(cairo_surface_t* surface, Kind kind, ZAMPrintCairoPictures& pictures,
@@ -186,7 +176,7 @@ ZAMMathBox2D ZAMPrintCairoCanvas::GetView(double reach) const {
 void ZAMPrintCairoCanvas::ClipTo(const ZAMMathBox2D& area, const ZAMMathAffine2D& toDevice) {
     // No corner may overflow: an area without a corner would not be the area.
     constexpr double kFarthest = 1e100;
-    _Path.Assign(MakeRectangle(area.Intersection({-kFarthest, -kFarthest, kFarthest, kFarthest})), toDevice);
+    _Path.Assign(ZAMPrintPath::OfBox(area.Intersection({-kFarthest, -kFarthest, kFarthest, kFarthest})), toDevice);
     if (_Path.GetPath().GetVerbs().size() == 5) {
         cairo_set_fill_rule(_Context.get(), CAIRO_FILL_RULE_WINDING);
         EmitFill();

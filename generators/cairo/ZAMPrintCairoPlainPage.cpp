@@ -42,16 +42,6 @@ bool NeedsFinerPlaces(const ZAMPrintPath& path, const ZAMPrintCairoPen& pen) {
     return shortLines * kSharesForMany > points.size();
 }
 
-ZAMPrintPath MakeRectangle(const ZAMMathBox2D& box) {
-    ZAMPrintPath path;
-    path.MoveTo({box.xMin, box.yMin});
-    path.LineTo({box.xMax, box.yMin});
-    path.LineTo({box.xMax, box.yMax});
-    path.LineTo({box.xMin, box.yMax});
-    path.ClosePath();
-    return path;
-}
-
 bool IsUpright(const ZAMMathAffine2D& map) {
     return (map.b == 0.0 && map.c == 0.0) || (map.a == 0.0 && map.d == 0.0);
 }
@@ -76,7 +66,7 @@ void ZAMPrintCairoPlainPage::Paint(const ZAMPrintColour& colour) {
         return;
     }
     const ZAMPrintFill fill{colour};
-    DrawPath(MakeRectangle(_Page), {}, &fill, nullptr);
+    DrawPath(ZAMPrintPath::OfBox(_Page), {}, &fill, nullptr);
 }
 
 void ZAMPrintCairoPlainPage::PushClip(const ZAMMathBox2D& area, const ZAMMathAffine2D& toPage) {
@@ -85,7 +75,7 @@ void ZAMPrintCairoPlainPage::PushClip(const ZAMMathBox2D& area, const ZAMMathAff
         clip.kind = Clip::Kind::Nothing;
     } else if (!(IsUpright(toPage) && Contains(toPage.Apply(area), _Page))) {
         clip.kind = Clip::Kind::Path;
-        _IsPlain = _IsPlain && area.Width() > 0.0 && area.Height() > 0.0 && Assign(MakeRectangle(area), toPage);
+        _IsPlain = _IsPlain && area.Width() > 0.0 && area.Height() > 0.0 && Assign(ZAMPrintPath::OfBox(area), toPage);
         clip.path = _Device.GetPath();
         // A rectangle with a corner that is no place is left to cairo, which cuts it first.
         _IsPlain = _IsPlain && clip.path.GetVerbs().size() == 5;
