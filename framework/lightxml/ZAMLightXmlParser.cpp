@@ -4,6 +4,7 @@
 #include "framework/base/ZAMLimits.h"
 #include "framework/lightxml/ZAMLightXmlDocument.h"
 #include "framework/lightxml/ZAMLightXmlEncoding.h"
+#include "framework/lightxml/ZAMLightXmlPlace.h"
 
 #include <algorithm>
 #include <cstring>
@@ -22,15 +23,16 @@ using ParserHandle = std::unique_ptr<std::remove_pointer_t<XML_Parser>, ParserDe
 // parser and leaves the reason here.
 class ParseRun {
 public:
-    ParseRun(XML_Parser parser, std::size_t mostElements) : _Parser(parser), _ElementsLeft(mostElements) {
+    ParseRun(XML_Parser parser, std::span<const char> bytes, std::size_t mostElements)
+        : _Parser(parser), _Bytes(bytes), _Place(bytes), _ElementsLeft(mostElements) {
         XML_SetUserData(parser, this);
         XML_SetElementHandler(parser, &OnStart, &OnEnd);
         XML_SetCharacterDataHandler(parser, &OnText);
         XML_SetUnknownEncodingHandler(parser, &ZAMLightXmlUnknownEncoding, nullptr);
     }
 
-    bool Run(std::span<const char> bytes) {
-        if (bytes.size() > ZAMLimits::kInputBytes) {
+    bool Run() {
+        if (_Bytes.size() > ZAMLimits::kInputBytes) {
             Stop("the document is larger than 2 GiB");
             return false;
         }
@@ -38,10 +40,10 @@ public:
         constexpr std::size_t kBytesForElement = 64;
         constexpr std::size_t kBytesForAttribute = 24;
         constexpr std::size_t kForeseen = std::size_t{64} << 20U;
-        const std::size_t foreseen = std::min(bytes.size(), kForeseen);
+        const std::size_t foreseen = std::min(_Bytes.size(), kForeseen);
         _Document->Expect(foreseen / kBytesForElement, foreseen / kBytesForAttribute);
         // All in one call: expat starts over with an unfinished attribute at each further piece.
-        return XML_Parse(_Parser, bytes.data(), static_cast<int>(bytes.size()), XML_TRUE) == XML_STATUS_OK;
+        return XML_Parse(_Parser, _Bytes.data(), static_cast<int>(_Bytes.size()), XML_TRUE) == XML_STATUS_OK;
     }
 
     [[nodiscard]] std::shared_ptr<ZAMLightXmlDocument> GetDocument() const { return _Document; }
@@ -86,7 +88,11 @@ private:
             Stop("the document has too many elements");
             return;
         }
-        _Document->OpenElement(name, GetLine(), GetColumn());
+        if (_Place.MoveTo(static_cast<std::size_t>(XML_GetCurrentByteIndex(_Parser)))) {
+            _Document->OpenElement(name, _Place.GetLine(), _Place.GetColumn());
+        } else {
+            _Document->OpenElement(name, GetLine(), GetColumn());
+        }
         AddAttributes(attributes);
     }
 
@@ -130,6 +136,8 @@ private:
     }
 
     XML_Parser _Parser;
+    std::span<const char> _Bytes;
+    ZAMLightXmlPlace _Place; // of the element opened last
     std::shared_ptr<ZAMLightXmlDocument> _Document = std::make_shared<ZAMLightXmlDocument>();
     std::size_t _ElementsLeft;
     std::size_t _DefaultedBytesLeft = ZAMLimits::kDefaultedBytes;
@@ -147,8 +155,8 @@ int ZAMLightXmlParser::Parse(const ZAMLightXmlInputStream& stream, ZAMLightXmlEl
         return -1;
     }
     try {
-        ParseRun run(parser.get(), _MostElements);
-        const bool complete = run.Run(stream.GetBytes());
+        ParseRun run(parser.get(), stream.GetBytes(), _MostElements);
+        const bool complete = run.Run();
         root = run.GetDocument()->IsEmpty() ? ZAMLightXmlElement() : ZAMLightXmlElement(run.GetDocument(), 0);
         _Error = complete ? ZAMLightXmlError() : run.GetError();
         return complete ? 1 : -1;

@@ -185,6 +185,32 @@ TEST(LightXmlTest, HandlesKeepTheirDocumentAndKnowTheirPlace) {
     EXPECT_EQ(empty.GetLine() + empty.GetColumn(), 0U);
 }
 
+TEST(LightXmlTest, PlacesAreCountedInCharactersOfAnyEncoding) {
+    const struct {
+        std::string text;
+        std::uint32_t line;
+        std::uint32_t column;
+    } rows[] = {
+        {"<a><b/></a>", 1, 4},
+        {"<a>\n\n\t<b/></a>", 3, 2},
+        {"<a\nc='~'\n><b/></a>", 3, 2},
+        {"<a>\r\n\r\n <b/></a>", 3, 2},
+        {"<a>\r\r <b/></a>", 3, 2},
+        {"<a>\n\xC3\xA9\xE2\x82\xAC<b/></a>", 2, 3},
+        {"<?xml version='1.0' encoding='ISO-8859-1'?>\n<a>\xC3\xA9<b/></a>", 2, 6},
+        {std::string("\xFF\xFE<\0a\0>\0\n\0<\0b\0/\0>\0<\0/\0a\0>\0", 26), 2, 1},
+        {"<!DOCTYPE a [<!ENTITY e '\n\n<b/>'>]>\n<a> &e;</a>", 4, 5},
+    };
+    for (const auto& row : rows) {
+        const Parsed parsed = Parse(row.text);
+        ZAMLightXmlPosition position = parsed.root.GetFirstChildPosition();
+        const ZAMLightXmlElement child = parsed.root.GetNextChild(position);
+        EXPECT_EQ(child.GetName(), "b") << row.text << ": " << parsed.error.reason;
+        EXPECT_EQ(child.GetLine(), row.line) << row.text;
+        EXPECT_EQ(child.GetColumn(), row.column) << row.text;
+    }
+}
+
 TEST(LightXmlTest, HugeDocumentsTakeLinearTime) {
     const std::string piece = "1.5,2.5 ";
     std::string manyAttributes = "<a";
