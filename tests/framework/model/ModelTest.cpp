@@ -5,12 +5,14 @@
 #include "framework/model/ZAMPrtTypeList.h"
 #include "framework/visualisation/ZAMFont.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
 #include <map>
 #include <random>
+#include <span>
 #include <sstream>
 #include <thread>
 #include <vector>
@@ -288,22 +290,27 @@ TEST(ContainerTest, NothingCyclicOrTooHighIsTaken) {
     EXPECT_TRUE(tooHigh->GetChildren().empty());
 }
 
+// From lists that copies share to few points, which each copy has itself.
 TEST(ElementTest, TakesItsOwnPointsAgain) {
     const auto polygon = ZAMNew<ZAMPrtPolygonElt>();
-    const ZAMMathPoint2D points[] = {{1, 2}, {3, 4}, {5, 6}};
-    polygon->SetPoints(points, 3);
-    polygon->SetPoints(polygon->GetPoints().data() + 1, 2);
-    ASSERT_EQ(polygon->GetPoints().size(), 2U);
-    EXPECT_EQ(polygon->GetPoints()[0], points[1]);
-    EXPECT_EQ(polygon->GetPoints()[1], points[2]);
+    const std::vector<ZAMMathPoint2D> points = {{1, 2}, {3, 4}, {5, 6}, {7, 8}, {9, 10}, {11, 12}, {13, 14}};
+    polygon->SetPoints(points.data(), 7);
+    for (std::size_t first = 0; first < points.size(); ++first) {
+        const auto got = polygon->GetPoints();
+        ASSERT_TRUE(std::ranges::equal(got, std::span(points).subspan(first))) << first;
+        const auto copy = ZAMNew<ZAMPrtPolygonElt>(*polygon);
+        polygon->SetPoints(got.data() + 1, static_cast<int>(got.size()) - 1);
+        EXPECT_TRUE(std::ranges::equal(copy->GetPoints(), std::span(points).subspan(first))) << first;
+    }
+    EXPECT_TRUE(polygon->GetPoints().empty());
 }
 
 TEST(ElementTest, ADuplicateSharesNoElement) {
     const Group group = ZAMNew<ZAMPrtGroupElt>();
     const Group inner = ZAMNew<ZAMPrtGroupElt>();
     const auto polygon = ZAMNew<ZAMPrtPolygonElt>();
-    const ZAMMathPoint2D points[] = {{1, 2}, {3, 4}};
-    polygon->SetPoints(points, 2);
+    const ZAMMathPoint2D points[] = {{1, 2}, {3, 4}, {5, 6}, {7, 8}, {9, 10}};
+    polygon->SetPoints(points, 5);
     polygon->SetID("p");
     polygon->SetTitle("title");
     polygon->SetDescription("description");
@@ -329,7 +336,7 @@ TEST(ElementTest, ADuplicateSharesNoElement) {
     EXPECT_EQ(typed->GetPoints().data(), polygon->GetPoints().data()); // what never changes is shared
     polygon->SetPoints(points, 0);
     polygon->SetTitle("other");
-    EXPECT_EQ(typed->GetPoints().size(), 2U);
+    EXPECT_EQ(typed->GetPoints().size(), 5U);
     EXPECT_EQ(typed->GetTitle(), "title");
     EXPECT_EQ(typed->GetDescription(), "description");
     EXPECT_EQ(typed->GetID().View(), "p");
