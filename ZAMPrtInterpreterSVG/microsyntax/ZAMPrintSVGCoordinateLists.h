@@ -39,22 +39,43 @@ public:
         }
     }
 
-private:
+protected:
     using Cursor = ZAMPrintSVGTokenCursor<minus>;
-
     using Token = typename Cursor::Token;
 
+    // A token as its text is read, with the number at hand that nearly every token is.
+    int ReadX(const Token& token, double& value) const {
+        return TakePlain(token, value) ? 1 : GetXCoordinate(token.text, value);
+    }
+    int ReadY(const Token& token, double& value) const {
+        if (!TakePlain(token, value)) {
+            return GetYCoordinate(token.text, value);
+        }
+        value = _FlipY ? _ImageHeight - value : value;
+        return 1;
+    }
+    int ReadVertLength(const Token& token, double& value) const {
+        return TakePlain(token, value) ? 1 : GetVertLength(token.text, value);
+    }
+    static int ReadNumber(const Token& token, double& value) {
+        return TakePlain(token, value) ? 1 : GetNumber(token.text, value);
+    }
+
+private:
+    static bool TakePlain(const Token& token, double& value) {
+        if (token.isPlain) {
+            value = token.number;
+        }
+        return token.isPlain;
+    }
+
     void AppendX(const Token& token, ZAMRawColldouble& list) const {
-        double value = token.number;
-        if (token.isPlain || GetXCoordinate(token.text, value) > 0) {
+        if (double value = 0.0; ReadX(token, value) > 0) {
             list.Append(value);
         }
     }
     void AppendY(const Token& token, ZAMRawColldouble& list) const {
-        double value = 0.0;
-        if (token.isPlain) {
-            list.Append(_FlipY ? _ImageHeight - token.number : token.number);
-        } else if (GetYCoordinate(token.text, value) > 0) {
+        if (double value = 0.0; ReadY(token, value) > 0) {
             list.Append(value);
         }
     }

@@ -3,6 +3,7 @@
 
 #include "framework/base/ZAMNumberReading.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -23,6 +24,11 @@ constexpr Unit kUnits[] = {
     {"in", [](double value) { return value * 89.9999978; }},
 };
 
+// Nearly every text without is several numbers that are written as one, such as ".5.5".
+bool MayHoldUnit(std::string_view text) {
+    return std::ranges::any_of(text, [](char c) { return c == 'p' || c == 'c' || c == 'm' || c == 'i' || c == '%'; });
+}
+
 std::string Without(std::string_view text, std::string_view pattern) {
     std::string result;
     for (std::size_t found = text.find(pattern); found != std::string_view::npos; found = text.find(pattern)) {
@@ -41,11 +47,13 @@ int ZAMPrintSVGLengthReader::SetImageSize(double width, double height) {
 }
 
 int ZAMPrintSVGLengthReader::GetLength(std::string_view text, double& result) const {
-    if (ZAMReadPlainDouble(text, result)) {
-        return 1;
-    }
-    if (text.empty()) {
-        return -1;
+    return ZAMReadPlainDouble(text, result) ? 1 : ReadOddLength(text, result);
+}
+
+// Of a text that is no plain number.
+int ZAMPrintSVGLengthReader::ReadOddLength(std::string_view text, double& result) const {
+    if (!MayHoldUnit(text)) {
+        return ZAMReadDouble(text, result);
     }
     double value = 0.0;
     for (const Unit& unit : kUnits) {
@@ -82,7 +90,7 @@ int ZAMPrintSVGLengthReader::GetDirectedLength(std::string_view text, double per
         return 1;
     }
     if (text.find('%') == std::string_view::npos) {
-        return GetLength(text, result);
+        return ReadOddLength(text, result);
     }
     const std::string number = Without(text, "%");
     double value = 0.0;

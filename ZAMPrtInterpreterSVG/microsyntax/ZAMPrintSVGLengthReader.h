@@ -37,5 +37,6 @@ public:
     bool _FlipY = true;
 
 private:
+    int ReadOddLength(std::string_view text, double& result) const;
     int GetDirectedLength(std::string_view text, double percentBase, double& result) const;
 };

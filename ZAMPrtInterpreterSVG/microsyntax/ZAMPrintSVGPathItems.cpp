@@ -32,13 +32,12 @@ std::size_t ItemLength(std::string_view text) {
 // "ſ", the long s: the one character beside the letters that case folding makes a command letter.
 constexpr std::string_view kLongS = "\u017F";
 
+// Of a text that does not start with a semicolon.
 ZAMPrintSVGPathItems::Item ReadItem(std::string_view text) {
-    if (text.starts_with(kLongS)) {
-        return {'S', false, text.substr(kLongS.size())};
-    }
     const char letter = text.front();
-    if (kCommandLetters.find(letter) == std::string_view::npos) {
-        return {'\0', false, {}};
+    if (!kEndsItem[static_cast<unsigned char>(letter)]) {
+        return text.starts_with(kLongS) ? ZAMPrintSVGPathItems::Item{'S', false, text.substr(kLongS.size())}
+                                        : ZAMPrintSVGPathItems::Item{'\0', false, {}};
     }
     const bool relative = letter >= 'a';
     return {static_cast<char>(relative ? letter - ('a' - 'A') : letter), relative, text.substr(1)};

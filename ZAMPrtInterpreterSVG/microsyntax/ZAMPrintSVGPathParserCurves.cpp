@@ -3,6 +3,7 @@
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGArcConversion.h"
 #include "ZAMPrtInterpreterSVG/microsyntax/ZAMPrintSVGPathParser.h"
 
+#include <algorithm>
 #include <cmath>
 
 // Makes a piece of the points in _Curve, whose last one becomes the current point.
@@ -100,13 +101,11 @@ void ZAMPrintSVGPathParser::ParseSmoothQuadraticTo(const Item& item) {
 
 // Seven values an arc; a value that cannot be read is 0, but a y is the flipped 0. What is left over is dropped.
 void ZAMPrintSVGPathParser::ParseArcTo(const Item& item) {
-    ZAMPrintSVGTokenCursor<ZAMPrintSVGMinus::StartsToken> cursor(item.arguments);
+    Cursor cursor(item.arguments);
     while (!cursor.AtEnd()) {
-        std::string_view tokens[7];
-        for (std::string_view& token : tokens) {
-            token = cursor.Next().text;
-        }
-        if (tokens[6].empty()) {
+        Token tokens[7];
+        std::ranges::generate(tokens, [&] { return cursor.Next(); });
+        if (tokens[6].text.empty()) {
             break;
         }
         double xRadius = 0.0;
@@ -115,13 +114,13 @@ void ZAMPrintSVGPathParser::ParseArcTo(const Item& item) {
         double largeArc = 0.0;
         double sweep = 0.0;
         ZAMMathPoint2D to;
-        GetHorLength(tokens[0], xRadius);
-        GetVertLength(tokens[1], yRadius);
-        GetNumber(tokens[2], rotation);
-        GetNumber(tokens[3], largeArc);
-        GetNumber(tokens[4], sweep);
-        GetXCoordinate(tokens[5], to.x);
-        GetYCoordinate(tokens[6], to.y);
+        ReadX(tokens[0], xRadius);
+        ReadVertLength(tokens[1], yRadius);
+        ReadNumber(tokens[2], rotation);
+        ReadNumber(tokens[3], largeArc);
+        ReadNumber(tokens[4], sweep);
+        ReadX(tokens[5], to.x);
+        ReadY(tokens[6], to.y);
         if (item.relative) {
             to = {to.x + _Current.x, to.y + _Current.y - (_FlipY ? _ImageHeight : 0.0)};
         }

@@ -211,12 +211,13 @@ bool ZAMReadPlainDouble(std::string_view text, double& value) noexcept {
     if (!ZAMTakePlainDouble(rest, number)) {
         return false;
     }
-    if (!rest.empty()) {
+    if (!rest.empty() && FoldsToE(rest.front())) {
         const char* const end = text.data() + text.size();
         const auto result = std::from_chars(text.data(), end, number);
-        if (result.ec != std::errc() || result.ptr != end) {
-            return false;
-        }
+        rest = result.ec == std::errc() && result.ptr == end ? std::string_view() : rest;
+    }
+    if (!rest.empty()) {
+        return false;
     }
     value = number;
     return true;
