@@ -15,8 +15,8 @@
 /// called.
 class ZAMPrintCairoOutput {
 public:
-    /// `keepsMarks`: the pages keep their marks until they end.
-    ZAMPrintCairoOutput(ZAMPrintCairoStream& stream, bool keepsMarks) : _Stream(stream), _Pictures(keepsMarks) {}
+    ZAMPrintCairoOutput(ZAMPrintCairoStream& stream, ZAMPrintCairoPictures::Fate pictures)
+        : _Stream(stream), _Pictures(pictures) {}
     ZAMPrintCairoOutput(const ZAMPrintCairoOutput&) = delete;
     ZAMPrintCairoOutput& operator=(const ZAMPrintCairoOutput&) = delete;
     virtual ~ZAMPrintCairoOutput();

@@ -3,6 +3,7 @@
 
 #include "generators/cairo/ZAMPrintCairoLimits.h"
 #include "generators/cairo/ZAMPrintCairoPixels.h"
+#include "generators/cairo/ZAMPrintCairoPngWriter.h"
 
 #include <algorithm>
 #include <memory>
@@ -18,26 +19,28 @@ bool IsWhole(const ZAMPixelImage& image, const ZAMPrintCairoPictures::Form& form
            form.columns == LimitSide(form.width) && form.rows == LimitSide(form.height) && !form.IsRepeated();
 }
 
-/// Under one name a PDF stores a picture once, whatever surfaces it comes on.
-void SetName(cairo_surface_t* surface, const std::string& image, const ZAMPrintCairoPictures::Form& form) {
-    std::string name = image;
-    std::apply([&name](auto... number) { ((name += '.' + std::to_string(number)), ...); }, form.AsTuple());
-    auto* text = std::make_unique<std::string>(std::move(name)).release();
+/// Without memory for it the surface stays as it is.
+void Attach(cairo_surface_t* surface, const char* type, std::string bytes) {
+    auto* kept = std::make_unique<std::string>(std::move(bytes)).release();
     const auto destroy = [](void* closure) { delete static_cast<std::string*>(closure); };
-    if (cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_UNIQUE_ID,
-                                    reinterpret_cast<const unsigned char*>(text->data()), text->size(), destroy,
-                                    text) != CAIRO_STATUS_SUCCESS) {
-        destroy(text);
+    if (cairo_surface_set_mime_data(surface, type, reinterpret_cast<const unsigned char*>(kept->data()), kept->size(),
+                                    destroy, kept) != CAIRO_STATUS_SUCCESS) {
+        destroy(kept);
     }
 }
 
-void SetJpeg(cairo_surface_t* surface, const ZAMPixelImage& image) {
+/// Under one name a document stores a picture once, whatever surfaces it comes on.
+void SetName(cairo_surface_t* surface, const std::string& image, const ZAMPrintCairoPictures::Form& form) {
+    std::string name = image;
+    std::apply([&name](auto... number) { ((name += '.' + std::to_string(number)), ...); }, form.AsTuple());
+    Attach(surface, CAIRO_MIME_TYPE_UNIQUE_ID, std::move(name));
+}
+
+/// Attaches the file that the image was read from, when it was a JPEG and the image outlives the surface.
+bool SetJpeg(cairo_surface_t* surface, const ZAMPixelImage& image) {
     const auto jpeg = image.GetJpeg();
-    if (!jpeg.empty()) {
-        // The image outlives the surface. Without memory for this the pixels are stored.
-        static_cast<void>(
-            cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_JPEG, jpeg.data(), jpeg.size(), nullptr, nullptr));
-    }
+    return !jpeg.empty() && cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_JPEG, jpeg.data(), jpeg.size(),
+                                                        nullptr, nullptr) == CAIRO_STATUS_SUCCESS;
 }
 
 } // namespace
@@ -58,10 +61,11 @@ cairo_surface_t* ZAMPrintCairoPictures::Find(const ZAMRef<ZAMPixelImage>& image,
         return nullptr;
     }
     ZAMPrintCairoSurface surface = Make(*known, form);
-    if (surface != nullptr && _KeepsMarks) {
+    if (surface != nullptr && _Fate != Fate::Painted) {
         SetName(surface.get(), known->name, form);
-        if (IsWhole(*image, form)) {
-            SetJpeg(surface.get(), *image);
+        const bool isJpeg = IsWhole(*image, form) && SetJpeg(surface.get(), *image);
+        if (_Fate == Fate::Filed && !isJpeg) {
+            Attach(surface.get(), CAIRO_MIME_TYPE_PNG, ZAMPrintCairoPngWriter::Encode(surface.get()));
         }
     }
     return (known->surfaces[form] = std::move(surface)).get();
@@ -99,7 +103,7 @@ bool ZAMPrintCairoPictures::Spend(const Form& form) {
     const std::size_t copied =
         isCopied ? static_cast<std::size_t>(form.windowX) * static_cast<std::size_t>(form.windowY) : 0;
     const std::size_t pixels = copied + ZAMPrintCairoLimits::kPixelsForEachPicture;
-    if (_Made + pixels > ZAMPrintCairoLimits::kMostMadePixels && !_KeepsMarks) {
+    if (_Made + pixels > ZAMPrintCairoLimits::kMostMadePixels && _Fate == Fate::Painted) {
         EndPage();
     }
     _Made += pixels;

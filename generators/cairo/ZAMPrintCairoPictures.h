@@ -63,9 +63,14 @@ public:
         bool operator<(const Cell& other) const { return AsTuple() < other.AsTuple(); }
     };
 
-    /// `keepsMarks`: the surfaces are drawn on one that keeps what is drawn until its page ends, and that takes JPEG
-    /// files as they are.
-    explicit ZAMPrintCairoPictures(bool keepsMarks) : _KeepsMarks(keepsMarks) {}
+    /// What becomes of a picture that is drawn.
+    enum class Fate {
+        Painted, ///< nothing is left of it but the marks on the page
+        Stored,  ///< the page keeps it until it ends, and a JPEG file as it is
+        Filed,   ///< likewise, and any other as a PNG file
+    };
+
+    explicit ZAMPrintCairoPictures(Fate fate) : _Fate(fate) {}
 
     /// Valid until the next call, and longer for what refers to it. Null when there is no memory, or when the page has
     /// more made of its images than is sensible.
@@ -97,7 +102,7 @@ private:
     [[nodiscard]] bool SpendSearch(const ZAMPixelImage& image);
     [[nodiscard]] ZAMPrintCairoSurface Make(const Known& known, const Form& form) const;
 
-    bool _KeepsMarks;
+    Fate _Fate;
     std::map<const ZAMPixelImage*, Known> _Images;
     std::map<Cell, ZAMRef<ZAMPixelImage>> _Cells;
     std::map<std::pair<const ZAMPixelImage*, float>, std::optional<ZAMPrintCairoRings>> _Rings;

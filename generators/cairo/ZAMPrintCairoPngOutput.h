@@ -9,7 +9,8 @@
 /// PNG: one picture, the first page.
 class ZAMPrintCairoPngOutput : public ZAMPrintCairoOutput {
 public:
-    explicit ZAMPrintCairoPngOutput(ZAMPrintCairoStream& stream) : ZAMPrintCairoOutput(stream, false) {}
+    explicit ZAMPrintCairoPngOutput(ZAMPrintCairoStream& stream)
+        : ZAMPrintCairoOutput(stream, ZAMPrintCairoPictures::Fate::Painted) {}
 
     [[nodiscard]] double GetLargestPageSide() const override;
     void BeginDocument(const ZAMPrintParameters& parameters) override;

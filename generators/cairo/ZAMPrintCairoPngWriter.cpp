@@ -12,13 +12,14 @@
 #include <cstring>
 #include <optional>
 #include <png.h>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace {
 
-/// Level 4 takes twice the time. Drawings are even areas: filters cost time and make them larger.
+/// Level 4 takes twice the time.
 constexpr int kCompressionLevel = 3;
 
 /// A picture in cairo's memory: native-endian words, alpha in the highest byte, colours multiplied with it.
@@ -87,7 +88,8 @@ struct Job {
     png_infop info = nullptr;
     Pixels pixels{};
     bool isOpaque = false;
-    png_uint_32 pixelsPerMetre = 0;
+    int filter = PNG_FILTER_NONE; // drawings are even areas, which filters make larger
+    png_uint_32 pixelsPerMetre = 0; // 0 to say nothing of it
     std::vector<Text> texts;
     std::optional<std::tm> time;
     std::vector<unsigned char> row;
@@ -133,12 +135,14 @@ void WriteTime(const Job& job) {
 
 void WritePicture(Job& job) {
     png_set_compression_level(job.png, kCompressionLevel);
-    png_set_filter(job.png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
+    png_set_filter(job.png, PNG_FILTER_TYPE_BASE, job.filter);
     png_set_IHDR(job.png, job.info, static_cast<png_uint_32>(job.pixels.width),
                  static_cast<png_uint_32>(job.pixels.height), 8,
                  job.isOpaque ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGBA, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_set_pHYs(job.png, job.info, job.pixelsPerMetre, job.pixelsPerMetre, PNG_RESOLUTION_METER);
+    if (job.pixelsPerMetre != 0) {
+        png_set_pHYs(job.png, job.info, job.pixelsPerMetre, job.pixelsPerMetre, PNG_RESOLUTION_METER);
+    }
     WriteTexts(job);
     WriteTime(job);
     png_write_info(job.png, job.info);
@@ -158,12 +162,9 @@ bool TryWritePicture(Job& job) {
     return true;
 }
 
-} // namespace
-
-void ZAMPrintCairoPngWriter::Write(cairo_surface_t* picture, double resolution, const ZAMPrintMetadata& metadata,
-                                   ZAMPrintCairoStream& stream) {
+/// Writes the picture with what else the job has.
+void Run(Job& job, cairo_surface_t* picture, ZAMPrintCairoStream& stream) {
     cairo_surface_flush(picture);
-    Job job;
     job.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, Fail, Ignore);
     job.info = job.png == nullptr ? nullptr : png_create_info_struct(job.png);
     if (job.info == nullptr) {
@@ -172,7 +173,18 @@ void ZAMPrintCairoPngWriter::Write(cairo_surface_t* picture, double resolution, 
     png_set_write_fn(job.png, &stream, WriteBytes, FlushBytes);
     job.pixels = {cairo_image_surface_get_data(picture), cairo_image_surface_get_width(picture),
                   cairo_image_surface_get_height(picture), cairo_image_surface_get_stride(picture)};
-    job.isOpaque = IsOpaque(job.pixels);
+    job.isOpaque = cairo_image_surface_get_format(picture) == CAIRO_FORMAT_RGB24 || IsOpaque(job.pixels);
+    job.row.resize(static_cast<std::size_t>(job.pixels.width) * 4);
+    if (!TryWritePicture(job)) {
+        throw ZAMPrintCairoFailure(stream.IsGood() ? "cannot encode the picture" : "cannot write the output");
+    }
+}
+
+} // namespace
+
+void ZAMPrintCairoPngWriter::Write(cairo_surface_t* picture, double resolution, const ZAMPrintMetadata& metadata,
+                                   ZAMPrintCairoStream& stream) {
+    Job job;
     job.pixelsPerMetre = static_cast<png_uint_32>(std::clamp(std::round(resolution / 0.0254), 1.0, 2147483647.0));
     const Text texts[] = {{{"Title"}, metadata.title},
                           {{"Author"}, metadata.author},
@@ -187,8 +199,14 @@ void ZAMPrintCairoPngWriter::Write(cairo_surface_t* picture, double resolution, 
     if (metadata.creationTime) {
         job.time = ZAMPrintCairoMetadata::ToCalendar(*metadata.creationTime);
     }
-    job.row.resize(static_cast<std::size_t>(job.pixels.width) * 4);
-    if (!TryWritePicture(job)) {
-        throw ZAMPrintCairoFailure(stream.IsGood() ? "cannot encode the picture" : "cannot write the output");
-    }
+    Run(job, picture, stream);
+}
+
+std::string ZAMPrintCairoPngWriter::Encode(cairo_surface_t* picture) {
+    std::ostringstream file;
+    ZAMPrintCairoStream stream(file);
+    Job job;
+    job.filter = PNG_FILTER_UP; // for photographs
+    Run(job, picture, stream);
+    return std::move(file).str();
 }

@@ -28,7 +28,7 @@ std::string Escape(std::string_view text) {
 } // namespace
 
 ZAMPrintCairoSvgOutput::ZAMPrintCairoSvgOutput(ZAMPrintCairoStream& stream)
-    : ZAMPrintCairoVectorOutput(stream),
+    : ZAMPrintCairoVectorOutput(stream, ZAMPrintCairoPictures::Fate::Filed), // cairo's PNG writer is slow
       _Filter(stream, kHeaderEnd, [this](std::string& header) { AddTitles(header); }) {}
 
 double ZAMPrintCairoSvgOutput::GetLargestPageSide() const {

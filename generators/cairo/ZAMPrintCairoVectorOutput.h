@@ -13,7 +13,9 @@
 /// class on their way to the stream.
 class ZAMPrintCairoVectorOutput : public ZAMPrintCairoOutput {
 public:
-    explicit ZAMPrintCairoVectorOutput(ZAMPrintCairoStream& stream) : ZAMPrintCairoOutput(stream, true) {}
+    explicit ZAMPrintCairoVectorOutput(ZAMPrintCairoStream& stream,
+                                       ZAMPrintCairoPictures::Fate pictures = ZAMPrintCairoPictures::Fate::Stored)
+        : ZAMPrintCairoOutput(stream, pictures) {}
 
     void EndPage() override;
     void EndDocument() override;

@@ -25,7 +25,7 @@ def _judge(zamprint, document, form, folder):
     """The faults of one document in one format, the file it was printed to, and what it took."""
     output = folder / f'{document.name}.{form}'
     run = print_document(zamprint, folder / f'{document.name}.in', output, form)
-    faults = run.find_faults(form in document.refused, document.draws_pictures, form in document.slow)
+    faults = run.find_faults(form in document.refused, document.draws_pictures)
     if output.exists():
         fault = find_fault(form, output)
         faults += [fault] if fault else []

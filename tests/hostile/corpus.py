@@ -19,19 +19,17 @@ class Document:
     make: Callable[[], bytes]
     refused: frozenset  # formats for which the tool gives an error and nothing else
     draws_pictures: bool
-    slow: frozenset  # formats that are known to take longer, see docs/SECURITY.md
 
 
 _documents = []
 
 
-def add(name, make, refused=frozenset(), draws_pictures=False, slow=frozenset()):
+def add(name, make, refused=frozenset(), draws_pictures=False):
     """A document that is made when it is needed: text, bytes, or what gives one of them."""
     def get():
         content = make() if callable(make) else make
         return content.encode() if isinstance(content, str) else content
-    _documents.append(Document(name, get, ALL if refused is True else frozenset(refused or ()), draws_pictures,
-                               frozenset(slow)))
+    _documents.append(Document(name, get, ALL if refused is True else frozenset(refused or ()), draws_pictures))
 
 
 def document(refused=frozenset(), draws_pictures=False):

@@ -95,4 +95,4 @@ _PICTURES = {
     'many-different': lambda: ''.join(_image(_png(600, height, _zeros(601 * height))) for height in range(600, 1200)),
     'sliced': _image(_DOT, attributes='width="1e-9" height="1e9" preserveAspectRatio="xMaxYMin slice"'),
 }
-add_table('picture', _PICTURES, svg, draws_pictures=True, slow={'svg'})
+add_table('picture', _PICTURES, svg, draws_pictures=True)

@@ -23,11 +23,11 @@ class Run:
     message: str
     has_output: bool
 
-    def find_faults(self, is_refused, draws_pictures, is_slow):
+    def find_faults(self, is_refused, draws_pictures):
         faults = []
         if os.WIFSIGNALED(self.status):
             return [f'ended by {signal.Signals(os.WTERMSIG(self.status)).name}: {self.message[-300:]}']
-        if self.seconds > _MOST_SECONDS * (4 if is_slow else 1):
+        if self.seconds > _MOST_SECONDS:
             faults.append(f'took {self.seconds:.1f} s')
         if self.mebibytes > (_MOST_MEBIBYTES_WITH_PICTURES if draws_pictures else _MOST_MEBIBYTES):
             faults.append(f'took {self.mebibytes:.0f} MiB')

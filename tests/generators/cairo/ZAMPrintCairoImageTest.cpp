@@ -46,6 +46,18 @@ ZAMPixelImage::Bytes MakeJpeg() {
             0x01, 0x01, 0x00, 0x00, 0x3F, 0x00, 0x38, 0x29, 0x93, 0xFF, 0xD9};
 }
 
+/// The one file of an SVG that draws the image twice.
+std::string FindFileInSvg(const ZAMRef<ZAMPixelImage>& image, const std::string& kind) {
+    const std::string svg = Draw(ZAMPrintCairoGenerator::Format::Svg, [&](ZAMPrintCairoGenerator& generator) {
+        generator.DrawImage(image, At(10, 60, 50, 50));
+        generator.DrawImage(image, At(40, 90, 50, 50));
+    });
+    const std::string start = "data:image/" + kind + ";base64,";
+    EXPECT_EQ(Count(svg, "data:image/"), 1);
+    const std::size_t begin = svg.find(start) + start.size();
+    return Ask("base64", "-d {}", svg.substr(begin, svg.find('"', begin) - begin));
+}
+
 struct Spot {
     int x;
     int y;
@@ -67,6 +79,26 @@ void ExpectSpots(const DrawMarks& draw, const std::vector<Spot>& spots, const st
 }
 
 } // namespace
+
+TEST(ZAMPrintCairoImage, IsAFileInAnSvg) {
+    const struct {
+        std::vector<std::uint32_t> pixels; // two
+        bool hasAlpha;
+        std::uint32_t rgba[2];
+    } rows[] = {
+        {{0xFF102030U, 0xFFFFFFFFU}, false, {0x102030FFU, 0xFFFFFFFFU}},
+        {{0x80404040U, 0x00000000U}, true, {0x7F7F7F80U, 0x00000000U}},
+    };
+    for (const auto& row : rows) {
+        const auto image = MakeImage(2, 1, [&](int x, int) { return row.pixels[static_cast<std::size_t>(x)]; });
+        const Picture picture(FindFileInSvg(image, "png"));
+        ASSERT_EQ(picture.width, 2);
+        EXPECT_EQ(picture.hasAlpha, row.hasAlpha);
+        for (const int x : {0, 1}) {
+            EXPECT_TRUE(picture.At(x, 0).IsNear(row.rgba[x], 1)) << picture.At(x, 0);
+        }
+    }
+}
 
 TEST(ZAMPrintCairoImage, IsWhereItsMapPutsIt) {
     const auto four = MakeFour();
@@ -198,6 +230,7 @@ TEST(ZAMPrintCairoImage, AJpegKeepsItsBytes) {
             std::filesystem::remove(root.string() + name);
         }
         EXPECT_TRUE(Rasterise(pdf, "pdftoppm", 72).At(98, 25).IsNear(0xD8D8D8FF, 24));
+        EXPECT_EQ(FindFileInSvg(image, "jpeg"), stored);
     }
 }
 

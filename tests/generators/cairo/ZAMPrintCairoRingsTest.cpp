@@ -101,7 +101,7 @@ TEST(ZAMPrintCairoRings, AreNotSoughtForever) {
         const auto grey = static_cast<std::uint32_t>(std::lround(255.0 - std::hypot(x - 500.0, y - 400.0) / 5.0));
         return 0xFF000000U | grey * 0x010101U;
     });
-    ZAMPrintCairoPictures pictures(true);
+    ZAMPrintCairoPictures pictures(ZAMPrintCairoPictures::Fate::Stored);
     const auto huge = MakeImage(1025, 1024, [](int, int) { return 0xFF000000U; });
     for (int i = 0; i < 40; ++i) {
         EXPECT_EQ(pictures.FindRings(huge, 1.0 + i * 0.01), nullptr);
