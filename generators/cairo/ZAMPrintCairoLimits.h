@@ -99,6 +99,12 @@ inline constexpr double kFinestCell = 16.0;
 inline constexpr std::size_t kMostMadePixels = std::size_t{1} << 26U;
 inline constexpr std::size_t kPixelsForEachPicture = 256;
 
+/// Pixels that marks of a page cost in PostScript, but for the first mark of each whole image: cairo encodes them for
+/// every mark, 5 to 30 million in a second. From there on pictures have half as many pixels a side, then, each time that
+/// the second number is reached, half as many again. Bytes of JPEG files count as pixels.
+inline constexpr std::size_t kMostWrittenPixels = std::size_t{1} << 24U;
+inline constexpr std::size_t kWrittenPixelsToHalve = std::size_t{1} << 20U;
+
 /// Pixels that a document has searched for rings: 32 of the largest pictures, which take about 25 ms each when they are
 /// rings, and less otherwise. The same picture is searched again for each aspect that it is shown with.
 inline constexpr std::size_t kMostSearchedPixels = std::size_t{1} << 25U;

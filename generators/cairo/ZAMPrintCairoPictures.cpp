@@ -16,7 +16,8 @@ int LimitSide(int side) {
 
 bool IsWhole(const ZAMPixelImage& image, const ZAMPrintCairoPictures::Form& form) {
     return form.width == image.GetWidth() && form.height == image.GetHeight() &&
-           form.columns == LimitSide(form.width) && form.rows == LimitSide(form.height) && !form.IsRepeated();
+           form.columns == LimitSide(form.width) && form.rows == LimitSide(form.height) && !form.IsRepeated() &&
+           form.halvings == 0;
 }
 
 /// Without memory for it the surface stays as it is.
@@ -43,32 +44,70 @@ bool SetJpeg(cairo_surface_t* surface, const ZAMPixelImage& image) {
                                                         nullptr, nullptr) == CAIRO_STATUS_SUCCESS;
 }
 
+std::size_t CountPixels(cairo_surface_t* surface) {
+    return surface == nullptr ? 0
+                              : static_cast<std::size_t>(cairo_image_surface_get_width(surface)) *
+                                    static_cast<std::size_t>(cairo_image_surface_get_height(surface));
+}
+
+ZAMPrintCairoSurface Halve(cairo_surface_t* surface) {
+    return ZAMPrintCairoPixels(surface).Shrink(std::max(1, cairo_image_surface_get_width(surface) / 2),
+                                               std::max(1, cairo_image_surface_get_height(surface) / 2));
+}
+
 } // namespace
 
 ZAMPrintCairoPictures::Form ZAMPrintCairoPictures::Form::Of(int x, int y, int width, int height) {
     const int columns = LimitSide(width);
     const int rows = LimitSide(height);
-    return {x, y, width, height, columns, rows, 0, 0, columns, rows};
+    return {x, y, width, height, columns, rows, 0, 0, columns, rows, 0};
 }
 
 cairo_surface_t* ZAMPrintCairoPictures::Find(const ZAMRef<ZAMPixelImage>& image, const Form& form) {
-    Known* known = &FindImage(image);
-    const auto found = known->surfaces.find(form);
-    if (found != known->surfaces.end()) {
-        return found->second.get();
-    }
-    if (!IsWhole(*image, form) && !Spend(form)) {
+    Known& known = FindImage(image);
+    const auto found = known.surfaces.find(form);
+    const bool isNew = found == known.surfaces.end();
+    cairo_surface_t* surface = isNew ? FindNew(known, form) : found->second.get();
+    const bool isFree = isNew && IsWhole(*image, form);
+    return surface == nullptr || _Fate != Fate::Written || isFree ? surface : Coarsen(surface, known, form);
+}
+
+cairo_surface_t* ZAMPrintCairoPictures::FindNew(Known& known, const Form& form) {
+    const ZAMPixelImage& image = *known.image;
+    if (!IsWhole(image, form) && !Spend(form)) {
         return nullptr;
     }
-    ZAMPrintCairoSurface surface = Make(*known, form);
+    ZAMPrintCairoSurface surface = Make(known, form);
     if (surface != nullptr && _Fate != Fate::Painted) {
-        SetName(surface.get(), known->name, form);
-        const bool isJpeg = IsWhole(*image, form) && SetJpeg(surface.get(), *image);
+        SetName(surface.get(), known.name, form);
+        const bool isJpeg = IsWhole(image, form) && SetJpeg(surface.get(), image);
         if (_Fate == Fate::Filed && !isJpeg) {
             Attach(surface.get(), CAIRO_MIME_TYPE_PNG, ZAMPrintCairoPngWriter::Encode(surface.get()));
         }
     }
-    return (known->surfaces[form] = std::move(surface)).get();
+    return (known.surfaces[form] = std::move(surface)).get();
+}
+
+cairo_surface_t* ZAMPrintCairoPictures::Coarsen(cairo_surface_t* surface, Known& known, const Form& form) {
+    using namespace ZAMPrintCairoLimits;
+    const std::size_t excess = _Written - std::min(_Written, kMostWrittenPixels);
+    const std::size_t halvings = (excess + kWrittenPixelsToHalve - 1) / kWrittenPixelsToHalve;
+    Form coarse = form;
+    while (coarse.halvings < static_cast<int>(halvings) && CountPixels(surface) > 1) {
+        ++coarse.halvings;
+        ZAMPrintCairoSurface& half = known.surfaces[coarse];
+        if (half == nullptr) {
+            half = Halve(surface);
+            if (half == nullptr) {
+                break;
+            }
+            SetName(half.get(), known.name, coarse);
+        }
+        surface = half.get();
+    }
+    const bool isJpeg = coarse.halvings == 0 && IsWhole(*known.image, form) && !known.image->GetJpeg().empty();
+    _Written += kPixelsForEachPicture + (isJpeg ? known.image->GetJpeg().size() : CountPixels(surface));
+    return surface;
 }
 
 const ZAMPrintCairoRings* ZAMPrintCairoPictures::FindRings(const ZAMRef<ZAMPixelImage>& image, double aspect) {
@@ -82,6 +121,7 @@ const ZAMPrintCairoRings* ZAMPrintCairoPictures::FindRings(const ZAMRef<ZAMPixel
 
 void ZAMPrintCairoPictures::EndPage() {
     _Made = 0;
+    _Written = 0;
     for (auto& [key, known] : _Images) {
         std::erase_if(known.surfaces,
                       [&image = *known.image](const auto& made) { return !IsWhole(image, made.first); });

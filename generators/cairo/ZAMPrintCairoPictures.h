@@ -29,6 +29,7 @@ public:
         int fromY = 0;
         int windowX = 0;
         int windowY = 0;
+        int halvings = 0; ///< so often there are then half as many pixels a side
 
         /// A part with its pixels as they are. A side that is longer than those of surfaces loses some.
         [[nodiscard]] static Form Of(int x, int y, int width, int height);
@@ -36,7 +37,7 @@ public:
             return Of(0, 0, image.GetWidth(), image.GetHeight());
         }
         [[nodiscard]] auto AsTuple() const {
-            return std::tie(x, y, width, height, columns, rows, fromX, fromY, windowX, windowY);
+            return std::tie(x, y, width, height, columns, rows, fromX, fromY, windowX, windowY, halvings);
         }
         /// As many pixels as are given, or fewer.
         void Reduce(int newColumns, int newRows) {
@@ -67,13 +68,15 @@ public:
     enum class Fate {
         Painted, ///< nothing is left of it but the marks on the page
         Stored,  ///< the page keeps it until it ends, and a JPEG file as it is
-        Filed,   ///< likewise, and any other as a PNG file
+        Written, ///< likewise, but with the work of writing it for every mark
+        Filed,   ///< as stored, and one that is no JPEG is a PNG file
     };
 
     explicit ZAMPrintCairoPictures(Fate fate) : _Fate(fate) {}
 
-    /// Valid until the next call, and longer for what refers to it. Null when there is no memory, or when the page has
-    /// more made of its images than is sensible.
+    /// To be called for every mark. Valid until the next call, and longer for what refers to it. Null when there is no
+    /// memory, or when the page has more made of its images than is sensible. The surface of what is written for every
+    /// mark has the less pixels, the more the page has had written.
     [[nodiscard]] cairo_surface_t* Find(const ZAMRef<ZAMPixelImage>& image, const Form& form);
     /// The cell, made with the first call; null when it cannot be made, or the document has more than is sensible.
     template <class Make> [[nodiscard]] ZAMRef<ZAMPixelImage> FindCell(const Cell& cell, const Make& make) {
@@ -96,6 +99,8 @@ private:
         std::map<Form, ZAMPrintCairoSurface> surfaces;
     };
 
+    [[nodiscard]] cairo_surface_t* FindNew(Known& known, const Form& form);
+    [[nodiscard]] cairo_surface_t* Coarsen(cairo_surface_t* surface, Known& known, const Form& form);
     [[nodiscard]] Known& FindImage(const ZAMRef<ZAMPixelImage>& image);
     [[nodiscard]] bool Spend(const Form& form);
     [[nodiscard]] bool SpendCell(const Cell& cell);
@@ -107,6 +112,7 @@ private:
     std::map<Cell, ZAMRef<ZAMPixelImage>> _Cells;
     std::map<std::pair<const ZAMPixelImage*, float>, std::optional<ZAMPrintCairoRings>> _Rings;
     std::size_t _Made = 0;      ///< pixels for the page
+    std::size_t _Written = 0;   ///< pixels that marks of the page cost, but for the first one of each whole image
     std::size_t _CellsMade = 0; ///< pixels for the document
     std::size_t _Searched = 0;  ///< pixels for rings, each as often as another aspect was asked for
 };

@@ -30,7 +30,7 @@ double FitSide(double side) {
 } // namespace
 
 ZAMPrintCairoPsOutput::ZAMPrintCairoPsOutput(ZAMPrintCairoStream& stream, Kind kind)
-    : ZAMPrintCairoVectorOutput(stream), _Kind(kind),
+    : ZAMPrintCairoVectorOutput(stream, ZAMPrintCairoPictures::Fate::Written), _Kind(kind),
       _Filter(stream, kHeaderEnd, [this](std::string& header) { EditHeader(header); }) {}
 
 double ZAMPrintCairoPsOutput::GetLargestPageSide() const {

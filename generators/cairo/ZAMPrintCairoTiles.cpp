@@ -129,6 +129,8 @@ ZAMPrintCairoTiles::Extent ZAMPrintCairoTiles::MakeExtent(const Axis& axis) cons
 void ZAMPrintCairoTiles::ShowAll(Extent& x, Extent& y) const {
     const std::pair<Extent*, const Axis*> sides[] = {{&x, &_X}, {&y, &_Y}};
     for (const auto& [extent, axis] : sides) {
+        extent->pixels = ZAMPrintCairoPicturePainter::ReducePixels(extent->pixels,
+                                                                   axis->spacing * ZAMPrintCairoLimits::kFinestCell);
         extent->bitmaps = IsLong(*axis) ? std::min(axis->count, axis->to - axis->from) : axis->count;
     }
     const double pixels = double(x.CountPixels()) * y.CountPixels();

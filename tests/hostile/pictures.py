@@ -2,6 +2,7 @@
 """Documents with pictures that lie about themselves, or hold far more than they seem to."""
 
 import base64
+import random
 import struct
 import zlib
 
@@ -57,6 +58,18 @@ def _dot_with(chunks):
     return _png(1, 1, zlib.compress(b'\0\0'), more=chunks)
 
 
+def _marks_of_a_pattern(data):
+    tile = f'<pattern id="p" width="20" height="20" patternUnits="userSpaceOnUse">{_image(data)}</pattern>'
+    return tile + ''.join(f'<circle cx="{i % 100}" cy="{i * 7 % 100}" r="{10 + i % 9}" fill="url(#p)"/>'
+                          for i in range((1000000 - len(tile)) // 50))
+
+
+def _noise(side):
+    """Nothing that compresses, yet small: each pixel is one of two greys."""
+    dice = random.Random(side)
+    return zlib.compress(b''.join(b'\0' + bytes(dice.choices(b'\0\1', k=side)) for _ in range(side)), 9)
+
+
 _PICTURES = {
     'png-bomb': lambda: _image(_png(11000, 11000, _zeros(11000 * 11001))),
     'png-too-many-pixels': lambda: _image(_png(30000, 30000, _zeros(30000 * 3751), depth=1)),
@@ -93,6 +106,9 @@ _PICTURES = {
                                     for number in range(3000)),
     'many-large': lambda: _image(_png(3000, 3000, _zeros(3000 * 3001))) * 60,
     'many-different': lambda: ''.join(_image(_png(600, height, _zeros(601 * height))) for height in range(600, 1200)),
+    'pattern-large': lambda: _marks_of_a_pattern(_png(2000, 2000, _zeros(2000 * 2001))),
+    'pattern-of-noise': lambda: _marks_of_a_pattern(_png(2000, 2000, _noise(2000))),
+    'pattern-of-little-noise': lambda: _marks_of_a_pattern(_png(64, 64, _noise(64))),
     'sliced': _image(_DOT, attributes='width="1e-9" height="1e9" preserveAspectRatio="xMaxYMin slice"'),
 }
 add_table('picture', _PICTURES, svg, draws_pictures=True)

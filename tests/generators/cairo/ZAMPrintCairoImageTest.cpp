@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "generators/cairo/ZAMPrintCairoNameFilter.h"
+#include "generators/cairo/ZAMPrintCairoPictures.h"
 #include "generators/cairo/ZAMPrintCairoPixels.h"
 #include "tests/generators/cairo/Drawing.h"
 #include "tests/generators/cairo/Picture.h"
@@ -8,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <map>
 #include <sstream>
 
 namespace {
@@ -231,6 +233,39 @@ TEST(ZAMPrintCairoImage, AJpegKeepsItsBytes) {
         }
         EXPECT_TRUE(Rasterise(pdf, "pdftoppm", 72).At(98, 25).IsNear(0xD8D8D8FF, 24));
         EXPECT_EQ(FindFileInSvg(image, "jpeg"), stored);
+    }
+}
+
+TEST(ZAMPrintCairoPictures, GetCoarserTheMoreOfThemAPageWrites) {
+    using Fate = ZAMPrintCairoPictures::Fate;
+    using Form = ZAMPrintCairoPictures::Form;
+    const auto image = MakeImage(2048, 2048, [](int x, int /*y*/) { return x < 1024 ? 0xFFFF0000U : 0xFF0000FFU; });
+    for (const Fate fate : {Fate::Written, Fate::Stored}) {
+        ZAMPrintCairoPictures pictures(fate);
+        for (int page = 0; page < 2; ++page) {
+            std::map<int, int> marks; // by the width of what is drawn
+            for (int i = 0; i < 2000; ++i) {
+                cairo_surface_t* surface = pictures.Find(image, Form::Of(*image));
+                ASSERT_NE(surface, nullptr);
+                const int width = cairo_image_surface_get_width(surface);
+                ASSERT_EQ(cairo_image_surface_get_height(surface), width);
+                EXPECT_EQ(cairo_image_surface_get_data(surface)[0], 0) << "no blue on the left";
+                ++marks[width];
+            }
+            if (fate == Fate::Stored) {
+                EXPECT_EQ(marks, (std::map<int, int>{{2048, 2000}}));
+                continue;
+            }
+            // The first of all is free, four have as many pixels as a page may have before they get coarser.
+            EXPECT_EQ(marks[2048], page == 0 ? 5 : 4);
+            EXPECT_EQ(marks[1024], 1);
+            EXPECT_EQ(marks[512], 4);
+            EXPECT_NEAR(marks[256], 16, 1);
+            EXPECT_NEAR(marks[128], 64, 2);
+            EXPECT_GT(marks[64], 200);
+            EXPECT_LE(marks.begin()->first, 32);
+            pictures.EndPage();
+        }
     }
 }
 
