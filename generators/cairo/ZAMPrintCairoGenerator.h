@@ -18,7 +18,8 @@
 ///
 /// PostScript has pages as PDF has, at least a point a side; encapsulated PostScript and SVG are the first page alone,
 /// an SVG drawing of at most 100,000 points a side. None of these has links. PostScript knows no transparency: what
-/// lies under something translucent becomes pixels, 300 to the inch. Text in an SVG drawing is outlines.
+/// lies under something translucent becomes pixels, 300 to the inch or, on a large page, fewer. Text in an SVG drawing
+/// is outlines.
 ///
 /// No document can put the output into an error state: non-finite marks are left out, geometry is cut far outside the
 /// page, and singular maps paint nothing.

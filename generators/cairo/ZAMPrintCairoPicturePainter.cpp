@@ -14,17 +14,14 @@ namespace {
 
 constexpr ZAMMathBox2D kUnitSquare{0.0, 0.0, 1.0, 1.0};
 
-/// `toDevice` carries pixels to device units. PDF knows smooth or not; see the class for when.
-cairo_filter_t ChooseFilter(Kind kind, const ZAMMathAffine2D& toDevice) {
-    constexpr double kLargestSmoothPixel = 4.0;
-    // From here on cairo takes seconds to find edges that nobody would miss.
-    constexpr double kLargestSmoothEdge = 64.0;
-    const double pixel = ZAMPrintCairoStretch(toDevice.Linear()).longest;
-    if (kind == Kind::Vector || pixel > kLargestSmoothEdge) {
-        return CAIRO_FILTER_FAST;
+/// The longest side of a pixel in device units, which `toDevice` carries pixels to. Along a side of one pixel nothing
+/// changes: there it counts as short.
+double GetLongestPixel(int width, int height, const ZAMMathAffine2D& toDevice) {
+    if (width > 1 && height > 1) {
+        return ZAMPrintCairoStretch(toDevice.Linear()).longest;
     }
-    // The best filter draws the pixels of enlarged pictures as squares with smooth edges.
-    return pixel < kLargestSmoothPixel ? CAIRO_FILTER_GOOD : CAIRO_FILTER_BEST;
+    return std::max(width > 1 ? std::hypot(toDevice.a, toDevice.b) : 0.0,
+                    height > 1 ? std::hypot(toDevice.c, toDevice.d) : 0.0);
 }
 
 } // namespace
@@ -51,10 +48,25 @@ void ZAMPrintCairoPicturePainter::Draw(const ZAMRef<ZAMPixelImage>& image, const
     }
 }
 
+/// PDF knows smooth or not; see the class for when. `pixel` is the longest side of a pixel in device units.
+cairo_filter_t ZAMPrintCairoPicturePainter::ChooseFilter(double pixel) {
+    constexpr double kLargestSmoothPixel = 4.0;
+    // From here on cairo takes seconds to find edges that nobody would miss.
+    constexpr double kLargestSmoothEdge = 64.0;
+    if (_Kind == Kind::Vector || pixel > kLargestSmoothEdge) {
+        return CAIRO_FILTER_FAST;
+    }
+    if (pixel < kLargestSmoothPixel) {
+        return CAIRO_FILTER_GOOD;
+    }
+    // The best filter draws the pixels of enlarged pictures as squares with smooth edges.
+    return _Pictures.SpendEdges(pixel * pixel) ? CAIRO_FILTER_BEST : CAIRO_FILTER_FAST;
+}
+
 ZAMPrintCairoPattern ZAMPrintCairoPicturePainter::MakeSource(cairo_surface_t* surface, const ZAMMathAffine2D& toDevice,
-                                                             Kind kind, cairo_extend_t extend) {
-    const double width = cairo_image_surface_get_width(surface);
-    const double height = cairo_image_surface_get_height(surface);
+                                                             cairo_extend_t extend) {
+    const int width = cairo_image_surface_get_width(surface);
+    const int height = cairo_image_surface_get_height(surface);
     const ZAMMathAffine2D pixelsToDevice = toDevice * ZAMMathAffine2D{1.0 / width, 0.0, 0.0, -1.0 / height, 0.0, 1.0};
     cairo_matrix_t matrix = ZAMPrintCairoMap::ToCairo(pixelsToDevice);
     if (cairo_matrix_invert(&matrix) != CAIRO_STATUS_SUCCESS) {
@@ -63,7 +75,7 @@ ZAMPrintCairoPattern ZAMPrintCairoPicturePainter::MakeSource(cairo_surface_t* su
     ZAMPrintCairoPattern source(cairo_pattern_create_for_surface(surface));
     cairo_pattern_set_matrix(source.get(), &matrix);
     cairo_pattern_set_extend(source.get(), extend);
-    cairo_pattern_set_filter(source.get(), ChooseFilter(kind, pixelsToDevice));
+    cairo_pattern_set_filter(source.get(), ChooseFilter(GetLongestPixel(width, height, pixelsToDevice)));
     return source;
 }
 
@@ -83,7 +95,7 @@ void ZAMPrintCairoPicturePainter::DrawPart(const ZAMRef<ZAMPixelImage>& image, Z
     // Its edge pixels go on, so that only the outline is smoothed.
     const ZAMPrintCairoPattern source =
         surface == nullptr ? nullptr
-                           : MakeSource(surface, toDevice, _Kind, isPicture ? CAIRO_EXTEND_PAD : CAIRO_EXTEND_NONE);
+                           : MakeSource(surface, toDevice, isPicture ? CAIRO_EXTEND_PAD : CAIRO_EXTEND_NONE);
     if (source == nullptr) {
         return;
     }

@@ -31,8 +31,8 @@ public:
     }
 
     /// A source that shows the surface where the map carries the unit square. Null when the map is singular.
-    [[nodiscard]] static ZAMPrintCairoPattern MakeSource(cairo_surface_t* surface, const ZAMMathAffine2D& toDevice,
-                                                         ZAMPrintCairoCanvas::Kind kind, cairo_extend_t extend);
+    [[nodiscard]] ZAMPrintCairoPattern MakeSource(cairo_surface_t* surface, const ZAMMathAffine2D& toDevice,
+                                                  cairo_extend_t extend);
     /// Calls `paint` for squares that cover what is seen of the area, with the middle of each and the clip set to it;
     /// once and for all when the surface keeps what is painted.
     template <class Paint> void PaintInBlocks(const ZAMMathBox2D& area, const Paint& paint) {
@@ -56,6 +56,7 @@ public:
     [[nodiscard]] static int ReducePixels(int pixels, double wanted);
 
 private:
+    [[nodiscard]] cairo_filter_t ChooseFilter(double pixel);
     void DrawPart(const ZAMRef<ZAMPixelImage>& image, ZAMPrintCairoPictures::Form form,
                   const ZAMMathAffine2D& toDevice);
 

@@ -119,8 +119,14 @@ const ZAMPrintCairoRings* ZAMPrintCairoPictures::FindRings(const ZAMRef<ZAMPixel
     return place->second ? &*place->second : nullptr;
 }
 
+bool ZAMPrintCairoPictures::SpendEdges(double squaredLength) {
+    _Edges += squaredLength;
+    return _Edges <= ZAMPrintCairoLimits::kMostSmoothEdges;
+}
+
 void ZAMPrintCairoPictures::EndPage() {
     _Made = 0;
+    _Edges = 0.0;
     _Written = 0;
     for (auto& [key, known] : _Images) {
         std::erase_if(known.surfaces,

@@ -89,6 +89,8 @@ public:
     /// The image as rings; null when it has none, or when the document had more searched for them than is sensible. See
     /// ZAMPrintCairoRings for the aspect.
     [[nodiscard]] const ZAMPrintCairoRings* FindRings(const ZAMRef<ZAMPixelImage>& image, double aspect);
+    /// Takes the edges of a mark's enlarged pixels, of which a page may have so much smoothed. False when it has.
+    [[nodiscard]] bool SpendEdges(double squaredLength);
     /// Drops what was made of images for the page.
     void EndPage();
 
@@ -112,6 +114,7 @@ private:
     std::map<Cell, ZAMRef<ZAMPixelImage>> _Cells;
     std::map<std::pair<const ZAMPixelImage*, float>, std::optional<ZAMPrintCairoRings>> _Rings;
     std::size_t _Made = 0;      ///< pixels for the page
+    double _Edges = 0.0;        ///< square device units, for the page
     std::size_t _Written = 0;   ///< pixels that marks of the page cost, but for the first one of each whole image
     std::size_t _CellsMade = 0; ///< pixels for the document
     std::size_t _Searched = 0;  ///< pixels for rings, each as often as another aspect was asked for

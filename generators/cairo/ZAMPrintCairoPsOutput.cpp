@@ -7,11 +7,11 @@
 
 #include <algorithm>
 #include <cairo-ps.h>
+#include <cmath>
 
 namespace {
 
 constexpr std::string_view kHeaderEnd = "%%EndComments\n";
-constexpr double kFallbackResolution = 300.0; // pixels to the inch
 
 /// As a text of a comment (DSC 3.0, 4.6): one line of printable ASCII, of which cairo takes 255 bytes with the key.
 std::string ToComment(std::string_view text) {
@@ -21,6 +21,12 @@ std::string ToComment(std::string_view text) {
         comment += c >= ' ' && c <= '~' ? c : c == '\n' || c == '\t' ? ' ' : '?';
     }
     return comment;
+}
+
+/// Of the pixels that what is translucent becomes, to the inch.
+double ChooseResolution(double width, double height) {
+    constexpr double kBest = 300.0;
+    return std::min(kBest, 72.0 * std::sqrt(ZAMPrintCairoLimits::kMostFallbackPixels / (width * height)));
 }
 
 double FitSide(double side) {
@@ -54,6 +60,8 @@ ZAMPrintCairoCanvas* ZAMPrintCairoPsOutput::BeginPage(double width, double heigh
     } else {
         cairo_ps_surface_set_size(GetSurface(), FitSide(width), FitSide(height));
     }
+    const double resolution = ChooseResolution(FitSide(width), FitSide(height));
+    cairo_surface_set_fallback_resolution(GetSurface(), resolution, resolution);
     Check(cairo_surface_status(GetSurface()));
     return BeginCanvas(width, height);
 }
@@ -62,7 +70,6 @@ void ZAMPrintCairoPsOutput::MakeSurface(double width, double height) {
     SetSurface(
         cairo_ps_surface_create_for_stream(WriteBytes, static_cast<ZAMPrintCairoVectorOutput*>(this), width, height));
     cairo_ps_surface_set_eps(GetSurface(), _Kind == Kind::Encapsulated ? 1 : 0);
-    cairo_surface_set_fallback_resolution(GetSurface(), kFallbackResolution, kFallbackResolution);
     WriteComment("%%Title: ", _Metadata.title);
     WriteComment("%%For: ", _Metadata.author);
 }

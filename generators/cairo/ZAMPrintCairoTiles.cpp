@@ -194,8 +194,8 @@ ZAMPrintCairoTiles::Sources ZAMPrintCairoTiles::DrawTogether() {
                                                                  _X.PlaceOf(0) + x.from * _X.step,
                                                                  _Y.PlaceOf(0) + y.from * _Y.step};
     return _Kind == Kind::Picture ? RepeatInPicture(surface, toDevice)
-                                  : ToSources(ZAMPrintCairoPicturePainter::MakeSource(
-                                        surface, toDevice, _Kind, isAll ? CAIRO_EXTEND_NONE : CAIRO_EXTEND_REPEAT));
+                                  : ToSources(_Painter.MakeSource(surface, toDevice,
+                                                                  isAll ? CAIRO_EXTEND_NONE : CAIRO_EXTEND_REPEAT));
 }
 
 /// The repeats near each part of the area are reckoned from a bitmap there, because cairo's fixed point does not reach
@@ -208,7 +208,7 @@ ZAMPrintCairoTiles::Sources ZAMPrintCairoTiles::RepeatInPicture(cairo_surface_t*
             const ZAMMathPoint2D place = fromDevice.Apply(middle);
             const ZAMMathAffine2D near =
                 toDevice * ZAMMathAffine2D{1.0, 0.0, 0.0, 1.0, std::floor(place.x), std::floor(place.y)};
-            const auto source = ZAMPrintCairoPicturePainter::MakeSource(surface, near, _Kind, CAIRO_EXTEND_REPEAT);
+            const auto source = _Painter.MakeSource(surface, near, CAIRO_EXTEND_REPEAT);
             if (source != nullptr) {
                 cairo_set_source(_Context, source.get());
                 cairo_paint(_Context);

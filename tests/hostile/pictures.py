@@ -104,6 +104,8 @@ _PICTURES = {
     'drawn-often': lambda: _image(_DOT) * 5000,
     'drawn-turned': lambda: ''.join(_image(_DOT, attributes=f'width="{number}" height="9" transform="rotate({number})"')
                                     for number in range(3000)),
+    'enlarged-often': lambda: ''.join(_image(_png(2, 2, zlib.compress(b'\0\0\x80\0\x80\0')), attributes=(
+        f'width="{30 + number % 60}" height="60" transform="rotate({number})"')) for number in range(3000)),
     'many-large': lambda: _image(_png(3000, 3000, _zeros(3000 * 3001))) * 60,
     'many-different': lambda: ''.join(_image(_png(600, height, _zeros(601 * height))) for height in range(600, 1200)),
     'pattern-large': lambda: _marks_of_a_pattern(_png(2000, 2000, _zeros(2000 * 2001))),

@@ -51,6 +51,7 @@ _GREAT_PAGES = {
     'area': 'width="20000" height="20000"',
 }
 add_table('page', _GREAT_PAGES, lambda attributes: svg(_SQUARE, attributes), refused={'png'})
+add('page-translucent', svg('<rect width="8000" height="8000" fill-opacity="0.5"/>' * 20, 'width="8000" height="8000"'))
 
 _TRANSFORMS = {
     'overflow': 'scale(1e200) scale(1e200)', 'underflow': 'scale(1e-200) scale(1e-200)', 'zero': 'scale(0)',

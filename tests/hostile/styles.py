@@ -89,6 +89,8 @@ _GRADIENTS = {
     'singular': f'<linearGradient id="g" gradientTransform="scale(0)">{_STOPS}</linearGradient>',
     'far': f'<linearGradient id="g" gradientTransform="translate(1e300) scale(1e-300)">{_STOPS}</linearGradient>',
     'on-all': lambda: f'<radialGradient id="g" spreadMethod="repeat" r="0.01">{_STOPS}</radialGradient>' + _FILLED * 20,
+    'on-marks': lambda: f'<linearGradient id="g" gradientTransform="rotate(30)">{_STOPS}</linearGradient>' + ''.join(
+        f'<circle cx="{number % 90}" cy="50" r="{9 + number % 9}" fill="url(#g)"/>' for number in range(10000)),
     'many': lambda: ''.join(f'<linearGradient id="g{number}" x2="0.{number}">{_STOPS}</linearGradient>'
                             f'<rect width="90" height="{number % 90}" fill="url(#g{number})"/>'
                             for number in range(2000)),
