@@ -99,13 +99,13 @@ inline constexpr double kFinestCell = 16.0;
 inline constexpr std::size_t kMostMadePixels = std::size_t{1} << 26U;
 inline constexpr std::size_t kPixelsForEachPicture = 256;
 
-/// Squared lengths, in device units, of the enlarged pixels of all marks of a page whose edges are smoothed: cairo takes
-/// as many microseconds, however many pixels a mark has.
+/// Squared lengths, in device units, of the enlarged pixels of all marks of a page whose edges are smoothed: cairo
+/// takes as many microseconds, however many pixels a mark has.
 inline constexpr double kMostSmoothEdges = 1e6;
 
 /// Pixels that marks of a page cost in PostScript, but for the first mark of each whole image: cairo encodes them for
-/// every mark, 5 to 30 million in a second. From there on pictures have half as many pixels a side, then, each time that
-/// the second number is reached, half as many again. Bytes of JPEG files count as pixels.
+/// every mark, 5 to 30 million in a second. From there on pictures have half as many pixels a side, then, each time
+/// that the second number is reached, half as many again. Bytes of JPEG files count as pixels.
 inline constexpr std::size_t kMostWrittenPixels = std::size_t{1} << 24U;
 inline constexpr std::size_t kWrittenPixelsToHalve = std::size_t{1} << 20U;
 
@@ -121,8 +121,8 @@ inline constexpr std::size_t kMostKeptBytes = std::size_t{1} << 26U;
 inline constexpr double kLargestPdfSide = 14400.0;
 inline constexpr double kSmallestPdfSide = 1e-3;
 
-/// Pixels that what is translucent on a page of PostScript becomes: cairo takes a dozen bytes for each. A2 has as many at
-/// 300 to the inch.
+/// Pixels that what is translucent on a page of PostScript becomes: cairo takes a dozen bytes for each. A2 has as many
+/// at 300 to the inch.
 inline constexpr double kMostFallbackPixels = 33554432.0;
 
 /// Cairo rounds the sides of a PostScript page to whole points and divides by them.

@@ -94,8 +94,7 @@ void ZAMPrintCairoPicturePainter::DrawPart(const ZAMRef<ZAMPixelImage>& image, Z
     cairo_surface_t* surface = _Pictures.Find(image, form);
     // Its edge pixels go on, so that only the outline is smoothed.
     const ZAMPrintCairoPattern source =
-        surface == nullptr ? nullptr
-                           : MakeSource(surface, toDevice, isPicture ? CAIRO_EXTEND_PAD : CAIRO_EXTEND_NONE);
+        surface == nullptr ? nullptr : MakeSource(surface, toDevice, isPicture ? CAIRO_EXTEND_PAD : CAIRO_EXTEND_NONE);
     if (source == nullptr) {
         return;
     }

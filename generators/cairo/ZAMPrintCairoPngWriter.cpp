@@ -88,7 +88,7 @@ struct Job {
     png_infop info = nullptr;
     Pixels pixels{};
     bool isOpaque = false;
-    int filter = PNG_FILTER_NONE; // drawings are even areas, which filters make larger
+    int filter = PNG_FILTER_NONE;   // drawings are even areas, which filters make larger
     png_uint_32 pixelsPerMetre = 0; // 0 to say nothing of it
     std::vector<Text> texts;
     std::optional<std::tm> time;

@@ -8,8 +8,8 @@
 #include <string_view>
 
 /// PostScript level 3 with the comments of the document structuring conventions: any number of pages, each of its own
-/// size; or encapsulated PostScript, one page. What lies under something translucent becomes pixels, 300 to the inch or, on
-/// a large page, fewer: PostScript knows no transparency.
+/// size; or encapsulated PostScript, one page. What lies under something translucent becomes pixels, 300 to the inch
+/// or, on a large page, fewer: PostScript knows no transparency.
 class ZAMPrintCairoPsOutput final : public ZAMPrintCairoVectorOutput {
 public:
     enum class Kind { Document, Encapsulated };

@@ -129,8 +129,8 @@ ZAMPrintCairoTiles::Extent ZAMPrintCairoTiles::MakeExtent(const Axis& axis) cons
 void ZAMPrintCairoTiles::ShowAll(Extent& x, Extent& y) const {
     const std::pair<Extent*, const Axis*> sides[] = {{&x, &_X}, {&y, &_Y}};
     for (const auto& [extent, axis] : sides) {
-        extent->pixels = ZAMPrintCairoPicturePainter::ReducePixels(extent->pixels,
-                                                                   axis->spacing * ZAMPrintCairoLimits::kFinestCell);
+        extent->pixels =
+            ZAMPrintCairoPicturePainter::ReducePixels(extent->pixels, axis->spacing * ZAMPrintCairoLimits::kFinestCell);
         extent->bitmaps = IsLong(*axis) ? std::min(axis->count, axis->to - axis->from) : axis->count;
     }
     const double pixels = double(x.CountPixels()) * y.CountPixels();
@@ -193,9 +193,9 @@ ZAMPrintCairoTiles::Sources ZAMPrintCairoTiles::DrawTogether() {
                                                                  y.bitmaps * _Y.step,
                                                                  _X.PlaceOf(0) + x.from * _X.step,
                                                                  _Y.PlaceOf(0) + y.from * _Y.step};
-    return _Kind == Kind::Picture ? RepeatInPicture(surface, toDevice)
-                                  : ToSources(_Painter.MakeSource(surface, toDevice,
-                                                                  isAll ? CAIRO_EXTEND_NONE : CAIRO_EXTEND_REPEAT));
+    return _Kind == Kind::Picture
+               ? RepeatInPicture(surface, toDevice)
+               : ToSources(_Painter.MakeSource(surface, toDevice, isAll ? CAIRO_EXTEND_NONE : CAIRO_EXTEND_REPEAT));
 }
 
 /// The repeats near each part of the area are reckoned from a bitmap there, because cairo's fixed point does not reach
