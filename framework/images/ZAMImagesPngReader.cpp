@@ -3,6 +3,7 @@
 
 #include "framework/visualisation/ZAMPixelArithmetic.h"
 
+#include <bit>
 #include <csetjmp>
 #include <cstring>
 #include <png.h>
@@ -21,6 +22,7 @@ struct Job {
     std::size_t position = 0;
     const ZAMImagesSink* sink = nullptr;
     std::span<std::uint32_t> pixels;
+    bool hasAlpha = false;
 
     Job() = default;
     Job(const Job&) = delete;
@@ -50,12 +52,19 @@ void PassOverOtherChunks(png_structp png) {
     png_set_crc_action(png, PNG_CRC_ERROR_QUIT, PNG_CRC_ERROR_QUIT);
 }
 
-// Every colour type becomes R, G, B, A of 8 bits.
-void AskForRgba(const Job& job) {
+// Every colour type becomes four bytes of 8 bits a pixel. With alpha these are R, G, B, A; without they are the
+// finished pixel: a word with its alpha, 0xFF, in the highest byte, and blue in the lowest.
+void AskForPixels(Job& job) {
+    const bool isLittle = std::endian::native == std::endian::little;
+    job.hasAlpha = (png_get_color_type(job.png, job.info) & PNG_COLOR_MASK_ALPHA) != 0 ||
+                   png_get_valid(job.png, job.info, PNG_INFO_tRNS) != 0;
     png_set_expand(job.png);
     png_set_scale_16(job.png);
     png_set_gray_to_rgb(job.png);
-    png_set_add_alpha(job.png, 0xFF, PNG_FILLER_AFTER);
+    if (!job.hasAlpha && isLittle) {
+        png_set_bgr(job.png);
+    }
+    png_set_add_alpha(job.png, 0xFF, job.hasAlpha || isLittle ? PNG_FILLER_AFTER : PNG_FILLER_BEFORE);
 }
 
 void BeginPixels(Job& job) {
@@ -72,7 +81,7 @@ void BeginPixels(Job& job) {
 }
 
 void ReadRows(Job& job) {
-    AskForRgba(job);
+    AskForPixels(job);
     const int passes = png_set_interlace_handling(job.png);
     png_read_update_info(job.png, job.info);
     const std::size_t width = png_get_image_width(job.png, job.info);
@@ -119,6 +128,8 @@ bool ZAMImagesReadPng(const unsigned char* data, std::size_t size, const ZAMImag
     if (job.info == nullptr || !TryReadPicture(job)) {
         return false;
     }
-    MultiplyAlpha(job.pixels);
+    if (job.hasAlpha) {
+        MultiplyAlpha(job.pixels);
+    }
     return true;
 }
